@@ -1,0 +1,18 @@
+// Alerts and cursors.
+#pragma once
+
+#include "AITypes.h"
+
+constexpr char kAIUserSuite[] = "AI User Suite";
+constexpr std::int32_t kAIUserSuiteVersion = 1018;
+
+struct AIUserSuite {
+  // Both return when the user has answered; without a window the text goes to standard error.
+  AIErr (*MessageAlert)(AIUnicodeStringHandle text);
+  AIErr (*ErrorAlert)(AIUnicodeStringHandle text);
+  // A plug-in's cursor pictures; disposed of by the plug-in.
+  AIErr (*CreateCursorResourceMgr)(SPPluginRef plugin, AIResourceManagerHandle* manager);
+  AIErr (*DisposeCursorResourceMgr)(AIResourceManagerHandle manager);
+};
+
+extern const AIUserSuite* sAIUser;
