@@ -1,0 +1,125 @@
+#include "CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <map>
+#include <utility>
+
+#include "Length.h"
+
+namespace host {
+namespace {
+
+constexpr char kVersionText[] = "corvane-host " CORVANE_VERSION;
+
+// Reads a length with its unit into points.
+CLI::Option* addLength(CLI::App& command, const std::string& name, double& points, const std::string& help) {
+  return command
+      .add_option_function<std::string>(
+          name,
+          [&points](const std::string& text) {
+            const std::optional<double> length = parseLength(text);
+            if (!length) throw CLI::ValidationError("\"" + text + "\" is no length; write 10pt, 6mm or 0.25in");
+            points = *length;
+          },
+          help)
+      ->type_name("LENGTH");
+}
+
+void addCommonOptions(CLI::App& app, CommonOptions& common) {
+  app.add_option("--plugin", common.plugin, "Bundle to load instead of the one beside the program")
+      ->type_name("DIR");
+  app.add_option("--language", common.language, "Language of the interface, such as de")->type_name("CODE");
+  app.add_option("--theme", common.theme, "light or dark")->check(CLI::IsMember({"light", "dark"}));
+  app.add_option("--pref", common.preferences, "A preference for this run")
+      ->type_name("PREFIX/SUFFIX=VALUE")
+      ->allow_extra_args(false);
+  app.add_option("--refuse", common.refuse, "Refuse a suite, or an entry's n-th call: \"AI Art Suite:NewArt:3\"")
+      ->type_name("SUITE[:ENTRY[:N]]")
+      ->allow_extra_args(false);
+  app.add_option("--refuse-nth", common.refuseNth, "Refuse the n-th suite call of the run")->type_name("N");
+}
+
+void addMarks(CLI::App& app, MarksArguments& marks) {
+  CLI::App* command = app.add_subcommand("marks", "Place register marks in drawings");
+  command->add_option("INPUT", marks.inputs, "SVG drawings; - is standard input")->required();
+  CLI::Option* output = command->add_option("-o,--output", marks.output, "Marked drawing; - is standard output");
+  CLI::Option* folder =
+      command->add_option("--out-dir", marks.outFolder, "Folder for the marked drawings, named like the inputs");
+  output->excludes(folder);
+  output->type_name("FILE");
+  folder->type_name("DIR");
+  const std::map<std::string, Placement> placements{
+      {"corner", Placement::Corner}, {"auto", Placement::Auto}, {"edge", Placement::Edge}};
+  command->add_option("--placement", marks.placement, "corner, auto or edge (corner)")
+      ->transform(CLI::Transformer(placements).description(""))
+      ->check(CLI::IsMember({Placement::Corner, Placement::Auto, Placement::Edge}).description(""));
+  const std::map<std::string, MarkShape> shapes{{"round", MarkShape::Round}, {"cross", MarkShape::Cross}};
+  command->add_option("--shape", marks.shape, "round or cross (round)")
+      ->transform(CLI::CheckedTransformer(shapes).description(""));
+  addLength(*command, "--size", marks.size, "Diameter of a round mark, bar length of a cross (6mm)");
+  addLength(*command, "--weight", marks.weight, "Stroke of a round mark, bar thickness of a cross (1mm)");
+  command->add_option("--amount", marks.amount, "Few to Many, for auto (0.5)")
+      ->check(CLI::Range(0.0, 1.0))
+      ->type_name("0..1");
+  command->add_flag("--json", marks.json, "Say what was placed as JSON, one object an input");
+}
+
+void addExport(CLI::App& app, ExportArguments& arguments) {
+  CLI::App* command = app.add_subcommand("export", "Write a drawing as PNG or SVG");
+  command->add_option("INPUT", arguments.input, "SVG drawing; - is standard input")->required();
+  command->add_option("-o,--output", arguments.output, "FILE.png or FILE.svg")->required()->type_name("FILE");
+}
+
+void addInfo(CLI::App& app, InfoArguments& arguments) {
+  CLI::App* command = app.add_subcommand("info", "Tell what a drawing holds and what was not understood");
+  command->add_option("INPUT", arguments.input, "SVG drawing; - is standard input")->required();
+  command->add_flag("--json", arguments.json, "As one JSON object");
+}
+
+// A sentence on what is missing or contradictory; empty if all is well.
+std::string complaintAbout(const MarksArguments& marks) {
+  if (marks.output.empty() && marks.outFolder.empty()) return "say where the result goes: -o FILE or --out-dir DIR";
+  if (marks.inputs.size() > 1 && marks.outFolder.empty()) return "several drawings need --out-dir DIR, not -o";
+  if (marks.json && marks.output == "-") return "--json and -o - both want standard output";
+  return {};
+}
+
+}  // namespace
+
+std::variant<CommandLine, ExitCode> parseCommandLine(int argc, char** argv) {
+  CommonOptions common;
+  MarksArguments marks;
+  ExportArguments exporting;
+  InfoArguments info;
+  CLI::App app("Opens SVG drawings, runs a plug-in on them and saves them with nothing lost.", "corvane-host");
+  app.fallthrough();
+  app.require_subcommand(1);
+  app.set_version_flag("--version", kVersionText);
+  addCommonOptions(app, common);
+  addMarks(app, marks);
+  addExport(app, exporting);
+  addInfo(app, info);
+  try {
+    app.parse(argc, argv);
+    CommandLine line{std::move(common), {}};
+    if (app.got_subcommand("marks")) {
+      const std::string complaint = complaintAbout(marks);
+      if (!complaint.empty()) throw CLI::ValidationError(complaint);
+      line.command = std::move(marks);
+    } else if (app.got_subcommand("export")) {
+      line.command = std::move(exporting);
+    } else {
+      line.command = std::move(info);
+    }
+    return line;
+  } catch (const CLI::Success& wantsText) {
+    app.exit(wantsText, std::cout, std::cerr);
+    return kExitDone;
+  } catch (const CLI::ParseError& complaint) {
+    std::cerr << "corvane-host: " << complaint.what() << "; see corvane-host --help\n";
+    return kExitUsage;
+  }
+}
+
+}  // namespace host

@@ -1,0 +1,62 @@
+// What the user asked for on the command line.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace host {
+
+enum ExitCode : int {
+  kExitDone = 0,
+  kExitCouldNot = 1,  // one sentence on standard error says why
+  kExitUsage = 2,
+  kExitWithMessages = 3  // done, but the product had something to say
+};
+
+struct CommonOptions {
+  std::string plugin;  // folder of the bundle; empty: the one beside the program
+  std::string language;
+  std::string theme = "light";
+  std::vector<std::string> preferences;  // PREFIX/SUFFIX=VALUE, for this run only
+  std::vector<std::string> refuse;
+  std::size_t refuseNth = 0;  // 0: none
+};
+
+enum class Placement { Corner = 1, Auto = 2, Edge = 3 };
+enum class MarkShape { Round = 0, Cross = 1 };
+
+// Lengths in points. "-" as a file is standard input or output.
+struct MarksArguments {
+  std::vector<std::string> inputs;
+  std::string output;     // one input
+  std::string outFolder;  // any number of inputs; a file there is named like its input
+  Placement placement = Placement::Corner;
+  MarkShape shape = MarkShape::Round;
+  double size = 6 * 72 / 25.4;
+  double weight = 1 * 72 / 25.4;
+  double amount = 0.5;
+  bool json = false;
+};
+
+struct ExportArguments {
+  std::string input;
+  std::string output;
+};
+
+struct InfoArguments {
+  std::string input;
+  bool json = false;
+};
+
+struct CommandLine {
+  CommonOptions common;
+  std::variant<MarksArguments, ExportArguments, InfoArguments> command;
+};
+
+// Either what to do, or the exit code after help, the version or a complaint was printed.
+std::variant<CommandLine, ExitCode> parseCommandLine(int argc, char** argv);
+
+}  // namespace host

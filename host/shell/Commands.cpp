@@ -1,0 +1,26 @@
+#include "Commands.h"
+
+#include <iostream>
+
+namespace host {
+namespace {
+
+struct Runner {
+  const CommonOptions& common;
+  ExitCode operator()(const MarksArguments& arguments) const { return runMarks(arguments, common); }
+  ExitCode operator()(const ExportArguments& arguments) const { return runExport(arguments); }
+  ExitCode operator()(const InfoArguments& arguments) const { return runInfo(arguments); }
+};
+
+}  // namespace
+
+void complain(const std::string& sentence) { std::cerr << "corvane-host: " << sentence << '\n'; }
+
+int runCommandLine(int argc, char** argv) {
+  const auto parsed = parseCommandLine(argc, argv);
+  if (const ExitCode* code = std::get_if<ExitCode>(&parsed)) return *code;
+  const CommandLine& line = std::get<CommandLine>(parsed);
+  return std::visit(Runner{line.common}, line.command);
+}
+
+}  // namespace host

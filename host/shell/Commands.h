@@ -1,0 +1,18 @@
+// The commands of the command line. Data goes to standard output, words to standard error.
+#pragma once
+
+#include "CommandLine.h"
+
+namespace host {
+
+ExitCode runMarks(const MarksArguments& arguments, const CommonOptions& common);
+ExitCode runExport(const ExportArguments& arguments);
+ExitCode runInfo(const InfoArguments& arguments);
+
+// Parses the command line, runs its command and answers with the exit code.
+int runCommandLine(int argc, char** argv);
+
+// "corvane-host: " and the sentence, on a line of standard error.
+void complain(const std::string& sentence);
+
+}  // namespace host

@@ -1,0 +1,17 @@
+// What a drawing holds, in words or as JSON.
+#pragma once
+
+#include <string>
+
+#include "SvgDrawing.h"
+
+namespace host {
+
+// Lengths in millimetres in words, in points in JSON; both end with a line break.
+std::string reportAsText(const SvgDrawing& drawing, const std::string& name);
+std::string reportAsJson(const SvgDrawing& drawing, const std::string& name);
+
+// A number as short as it reads back to the same, such as "0.1".
+std::string shortNumber(double value);
+
+}  // namespace host

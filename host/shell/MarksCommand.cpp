@@ -1,0 +1,209 @@
+#include <filesystem>
+#include <iostream>
+#include <nlohmann/json.hpp>
+#include <set>
+#include <utility>
+
+#include "Bounds.h"
+#include "Commands.h"
+#include "DrawingFile.h"
+#include "DrawingReport.h"
+#include "ProductCommands.h"
+#include "Session.h"
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path defaultBundle() {
+  std::error_code ignored;
+  return fs::read_symlink("/proc/self/exe", ignored).parent_path() / kMarksProduct.bundle;
+}
+
+// What one drawing came to.
+struct Outcome {
+  std::vector<AIRealPoint> marks;  // centres in points, in drawing order
+  std::int32_t notPlaced = 0;
+  std::vector<std::string> messages;
+};
+
+std::vector<AIRealPoint> marksIn(const Document& document) {
+  std::vector<AIRealPoint> centres;
+  for (const LayerId id : document.state().layers) {
+    const Layer& layer = *document.layer(id);
+    if (layer.title != kMarksProduct.layerTitle) continue;
+    // What was drawn first lies at the bottom.
+    for (ArtId art = document.art(layer.root)->lastChild; art != 0; art = document.art(art)->above) {
+      if (document.art(art)->name != kMarksProduct.artName) continue;
+      const AIRealRect box = artBounds(document, art, nullptr, kNoStrokeBounds);
+      const double scale = document.scale();
+      centres.push_back({(box.left + box.right) / 2 * scale, (box.top + box.bottom) / 2 * scale});
+    }
+    break;
+  }
+  return centres;
+}
+
+std::string asJson(const std::string& input, const std::string& output, const Outcome& outcome) {
+  nlohmann::ordered_json json{{"input", input}, {"marks", nlohmann::ordered_json::array()}};
+  for (const AIRealPoint& centre : outcome.marks) json["marks"].push_back({{"x", centre.x}, {"y", centre.y}});
+  json["not_placed"] = outcome.notPlaced;
+  json["messages"] = outcome.messages;
+  json["output"] = output;
+  return json.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";
+}
+
+class MarksRun {
+ public:
+  MarksRun(const MarksArguments& arguments, const CommonOptions& common)
+      : arguments_(arguments), common_(common), host_(loadPreferences(), userFolders()), session_(host_) {}
+
+  ExitCode run() {
+    if (const ExitCode code = prepare(); code != kExitDone) return code;
+    session_.start();
+    ExitCode worst = kExitDone;
+    for (const auto& [input, output] : jobs_) {
+      const ExitCode code = mark(input, output);
+      if (worst != kExitCouldNot && code != kExitDone) worst = code;
+    }
+    session_.shutdown();
+    return worst;
+  }
+
+ private:
+  Preferences loadPreferences() {
+    const Folders folders = userFolders();
+    if (folders.configuration.empty()) return {};
+    std::string complaint;
+    Preferences preferences = Preferences::load(folders.configuration + "/preferences.json", complaint);
+    if (!complaint.empty()) complain(complaint);
+    return preferences;
+  }
+
+  ExitCode prepare() {
+    if (!common_.language.empty()) setenv("LANGUAGE", common_.language.c_str(), 1);
+    overlayOptions();
+    for (const std::string& assignment : common_.preferences) {
+      if (const std::string wrong = host_.preferences().overlayText(assignment); !wrong.empty()) {
+        complain(wrong);
+        return kExitUsage;
+      }
+    }
+    for (const std::string& rule : common_.refuse) {
+      if (const std::string wrong = host_.refusal().add(rule); !wrong.empty()) {
+        complain(wrong);
+        return kExitUsage;
+      }
+    }
+    host_.refusal().armNth(common_.refuseNth);
+    host_.showAlert = [](const Alert& alert) { std::cerr << alert.text << '\n'; };
+    if (const std::string clash = listJobs(); !clash.empty()) {
+      complain(clash);
+      return kExitUsage;
+    }
+    const fs::path bundle = common_.plugin.empty() ? defaultBundle() : fs::path(common_.plugin);
+    if (const std::string reason = session_.loadPlugin(bundle); !reason.empty()) {
+      complain(reason);
+      tellRefused();
+      return kExitCouldNot;
+    }
+    return kExitDone;
+  }
+
+  void overlayOptions() {
+    const auto overlay = [this](const char* key, PreferenceValue value) {
+      host_.preferences().overlay(kMarksProduct.preferencePrefix, key, std::move(value));
+    };
+    overlay(kMarksProduct.sizeKey, arguments_.size);
+    overlay(kMarksProduct.weightKey, arguments_.weight);
+    overlay(kMarksProduct.amountKey, arguments_.amount);
+    overlay(kMarksProduct.shapeKey, static_cast<std::int32_t>(arguments_.shape) + 1);
+    overlay(kMarksProduct.placementKey, static_cast<std::int32_t>(arguments_.placement) + 1);
+  }
+
+  // Pairs inputs with outputs. Empty, or a sentence on two drawings that would become one file.
+  std::string listJobs() {
+    std::set<std::string> taken;
+    for (const std::string& input : arguments_.inputs) {
+      std::string output = arguments_.output;
+      if (output.empty()) {
+        const std::string name = input == kStandardStream ? "stdin.svg" : fs::path(input).filename().string();
+        output = (fs::path(arguments_.outFolder) / name).string();
+      }
+      if (!taken.insert(output).second) return "two of the drawings would both be saved as " + output;
+      jobs_.emplace_back(input, output);
+    }
+    return {};
+  }
+
+  ExitCode mark(const std::string& input, const std::string& output) {
+    auto opened = openDrawing(input);
+    if (const std::string* reason = std::get_if<std::string>(&opened)) {
+      complain(*reason);
+      return kExitCouldNot;
+    }
+    const SvgDrawing drawing = std::move(std::get<SvgDrawing>(opened));
+    const std::size_t alertsBefore = host_.alerts().size();
+    session_.openDocument(drawing.document, shownName(input), input == kStandardStream ? "" : input);
+    const std::optional<SPErr> code = session_.chooseMenuItem(kMarksProduct.menuKey);
+    session_.closeDocument(*drawing.document);
+    tellRefused();
+    if (!code || *code != kSPNoError) {
+      complain(code ? "the plug-in failed on " + shownName(input) + " with code " + std::to_string(*code)
+                    : std::string("the plug-in offers no command \"") + kMarksProduct.menuKey + "\"");
+      return kExitCouldNot;
+    }
+    if (const std::string reason = saveBytes(output, writeSvg(drawing)); !reason.empty()) {
+      complain(reason);
+      return kExitCouldNot;
+    }
+    return report(input, output, outcomeOf(*drawing.document, alertsBefore));
+  }
+
+  Outcome outcomeOf(const Document& document, std::size_t alertsBefore) {
+    Outcome outcome;
+    outcome.marks = marksIn(document);
+    outcome.notPlaced =
+        host_.preferences().integer(kMarksProduct.preferencePrefix, kMarksProduct.notPlacedKey).value_or(0);
+    for (std::size_t i = alertsBefore; i < host_.alerts().size(); ++i) {
+      outcome.messages.push_back(host_.alerts()[i].text);
+    }
+    return outcome;
+  }
+
+  ExitCode report(const std::string& input, const std::string& output, const Outcome& outcome) {
+    if (arguments_.json) std::cout << asJson(input, output, outcome) << std::flush;
+    const std::size_t count = outcome.marks.size();
+    std::cerr << shownName(input) << ": ";
+    if (count == 0) {
+      std::cerr << "no marks were placed";
+    } else {
+      std::cerr << count << (count == 1 ? " mark" : " marks");
+    }
+    if (outcome.notPlaced > 0) std::cerr << ", " << outcome.notPlaced << " found no room";
+    std::cerr << "; saved to " << (output == kStandardStream ? "standard output" : output) << '\n';
+    const bool quiet = outcome.messages.empty() && count > 0 && host_.refusal().refused().empty();
+    return quiet ? kExitDone : kExitWithMessages;
+  }
+
+  void tellRefused() {
+    const std::vector<std::string>& refused = host_.refusal().refused();
+    for (; toldRefused_ < refused.size(); ++toldRefused_) complain("refused " + refused[toldRefused_]);
+  }
+
+  const MarksArguments& arguments_;
+  const CommonOptions& common_;
+  Host host_;
+  Session session_;
+  std::vector<std::pair<std::string, std::string>> jobs_;  // input and output
+  std::size_t toldRefused_ = 0;
+};
+
+}  // namespace
+
+ExitCode runMarks(const MarksArguments& arguments, const CommonOptions& common) {
+  return MarksRun(arguments, common).run();
+}
+
+}  // namespace host

@@ -1,0 +1,135 @@
+#include "Session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "AIMenu.h"
+#include "AINotifier.h"
+#include "UndoStep.h"
+
+namespace host {
+namespace {
+
+// Result codes are four characters where they can be read so.
+std::string codeText(SPErr code) {
+  const auto bits = static_cast<std::uint32_t>(code);
+  std::string text;
+  for (int shift = 24; shift >= 0; shift -= 8) {
+    const auto byte = static_cast<char>((bits >> shift) & 0xFF);
+    if (byte < ' ' || byte > '~') return std::to_string(code);
+    text += byte;
+  }
+  return "'" + text + "'";
+}
+
+}  // namespace
+
+std::string Session::loadPlugin(const std::filesystem::path& bundle) {
+  auto loaded = PluginBundle::load(bundle);
+  if (const std::string* reason = std::get_if<std::string>(&loaded)) return *reason;
+  PluginBundle& library = std::get<PluginBundle>(loaded);
+  const PluginRecord& record = host_.addPlugin(library.name(), library.folder().string());
+  LoadedPlugin plugin{record.handle, std::move(library), nullptr};
+  SPMessageData message{};
+  const SPErr code = sendTo(plugin, kSPInterfaceCaller, kSPInterfaceStartupSelector, message, {});
+  if (code != kSPNoError) {
+    return "the plug-in " + plugin.bundle.folder().string() + " did not start: it answered " + codeText(code);
+  }
+  plugins_.push_back(std::move(plugin));
+  return {};
+}
+
+void Session::start() {
+  started_ = true;
+  notify(kAIApplicationStartedNotifier);
+  notify(kAIOwlAppInitDispatchedNotifier);
+}
+
+OpenDocument& Session::openDocument(std::shared_ptr<Document> document, std::string title, std::string file) {
+  OpenDocument& open = host_.documents().open(std::move(document), std::move(title), std::move(file));
+  notify(kAIDocumentOpenedNotifier, open.handle());
+  notify(kAIDocumentChangedNotifier);
+  return open;
+}
+
+void Session::closeDocument(const Document& document) {
+  const auto& all = host_.documents().all();
+  const auto found = std::find_if(all.begin(), all.end(),
+                                  [&](const auto& open) { return open->document.get() == &document; });
+  if (found == all.end()) return;
+  const AIDocumentHandle handle = (*found)->handle();
+  host_.documents().close(document);
+  notify(kAIDocumentClosedNotifier, handle);
+  notify(kAIDocumentChangedNotifier);
+}
+
+std::optional<SPErr> Session::chooseMenuItem(const std::string& key) {
+  for (const MenuItem& item : host_.menus().items()) {
+    if (item.key != key) continue;
+    if (!item.enabledIn(host_.menuState())) return std::nullopt;
+    AIMenuMessage message{};
+    message.menuItem = item.handle;
+    const SPPluginRef plugin = item.plugin;
+    const std::string step = item.text;
+    if (item.wantsUpdate) send(plugin, kCallerAIMenu, kSelectorAIUpdateMenuItem, message.d);
+    return send(plugin, kCallerAIMenu, kSelectorAIGoMenuItem, message.d, step);
+  }
+  return std::nullopt;
+}
+
+void Session::shutdown() {
+  if (started_) {
+    notify(kAISaveUserDataNotifier);
+    notify(kAIApplicationShutdownNotifier);
+    started_ = false;
+  }
+  for (LoadedPlugin& plugin : plugins_) {
+    SPMessageData message{};
+    sendTo(plugin, kSPInterfaceCaller, kSPInterfaceShutdownSelector, message, {});
+  }
+  plugins_.clear();
+}
+
+void Session::notify(const char* type, void* data) {
+  // A notifier may register another while it runs, so the list is gone through by a copy of its handles.
+  std::vector<AINotifierHandle> listening;
+  for (const NotifierRecord& notifier : host_.notifiers()) {
+    if (notifier.active && notifier.type == type) listening.push_back(notifier.handle);
+  }
+  for (const AINotifierHandle handle : listening) {
+    const NotifierRecord* notifier = host_.notifiers().find(handle);
+    if (notifier == nullptr || !notifier->active) continue;
+    AINotifierMessage message{};
+    message.notifier = handle;
+    message.type = type;
+    message.notifyData = data;
+    send(notifier->plugin, kAINotifierCaller, type, message.d);
+  }
+}
+
+SPErr Session::send(SPPluginRef plugin, const char* caller, const char* selector, SPMessageData& message,
+                    const std::string& stepName) {
+  for (LoadedPlugin& loaded : plugins_) {
+    if (loaded.ref == plugin) return sendTo(loaded, caller, selector, message, stepName);
+  }
+  return kSPBadParameterError;
+}
+
+SPErr Session::sendTo(LoadedPlugin& plugin, const char* caller, const char* selector, SPMessageData& message,
+                      const std::string& stepName) {
+  message.SPCheck = kSPValidSPMessageData;
+  message.self = plugin.ref;
+  message.globals = plugin.globals;
+  message.basic = host_.basic();
+  const UndoStep step(host_.documents(), stepName.empty() ? "Change" : stepName);
+  SPErr code = kSPExceptionError;
+  try {
+    code = plugin.bundle.entry()(caller, selector, &message);
+  } catch (...) {
+    code = kSPExceptionError;
+  }
+  plugin.globals = message.globals;
+  return code;
+}
+
+}  // namespace host

@@ -1,0 +1,62 @@
+// The life of the application with its plug-ins, in messages.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Host.h"
+#include "PluginBundle.h"
+
+namespace host {
+
+// Sends every message of a life in its order: "Startup" as a plug-in is loaded, the notifiers of a started
+// application, those of documents as they come and go, those of the end, and "Shutdown". Whatever one
+// message changes in the documents is one undo step.
+class Session {
+ public:
+  explicit Session(Host& host) : host_(host) {}
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+  ~Session() { shutdown(); }
+
+  // Loads a bundle and starts the plug-in in it. Empty, or one sentence on why the plug-in stays out; the
+  // application goes on without it.
+  std::string loadPlugin(const std::filesystem::path& bundle);
+  // Once, behind the last loadPlugin.
+  void start();
+
+  OpenDocument& openDocument(std::shared_ptr<Document> document, std::string title, std::string file);
+  void closeDocument(const Document& document);
+
+  // Chooses the item of this key as a user would. Nullopt if there is no such item or it is disabled;
+  // else the plug-in's result code.
+  std::optional<SPErr> chooseMenuItem(const std::string& key);
+
+  // Tells every plug-in; safe to call twice.
+  void shutdown();
+
+  // One message to one plug-in, as a step of its own if `stepName` is not empty. An exception that comes
+  // out of it counts as kSPExceptionError.
+  SPErr send(SPPluginRef plugin, const char* caller, const char* selector, SPMessageData& message,
+             const std::string& stepName = {});
+  void notify(const char* type, void* data = nullptr);
+
+ private:
+  struct LoadedPlugin {
+    SPPluginRef ref;
+    PluginBundle bundle;
+    void* globals = nullptr;
+  };
+
+  SPErr sendTo(LoadedPlugin& plugin, const char* caller, const char* selector, SPMessageData& message,
+               const std::string& stepName);
+
+  Host& host_;
+  std::vector<LoadedPlugin> plugins_;
+  bool started_ = false;
+};
+
+}  // namespace host

@@ -1,0 +1,74 @@
+// The real host with the real plug-in and a drawing, for tests.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "Host.h"
+#include "Session.h"
+#include "SvgDrawing.h"
+
+namespace host {
+
+constexpr char kMarksKey[] = "Add brevia Register Marks...";
+
+inline std::filesystem::path corvaneBundle() { return std::filesystem::path(CORVANE_BIN) / "corvane.bundle"; }
+inline std::filesystem::path testBundle(const std::string& name) {
+  return std::filesystem::path(CORVANE_TEST_BUNDLES) / (name + ".bundle");
+}
+
+inline std::string readText(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) throw std::runtime_error("cannot read " + file.string());
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+inline SvgDrawing drawingOf(std::string svg) {
+  auto read = readSvg(std::move(svg), nullptr);
+  if (const SvgError* error = std::get_if<SvgError>(&read)) throw std::runtime_error(error->reason);
+  return std::move(std::get<SvgDrawing>(read));
+}
+
+// One square of 200 pt, 100 pt from the left and the lower edge of a page of 600 x 800 pt.
+inline std::string squareOnPage() {
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"600pt\" height=\"800pt\" viewBox=\"0 0 600 800\">\n"
+         "  <rect x=\"100\" y=\"500\" width=\"200\" height=\"200\" fill=\"#f00\"/>\n"
+         "</svg>\n";
+}
+
+// A host with the plug-in started, and a drawing open in it if one is given.
+struct World {
+  explicit World(const std::optional<std::string>& svg = std::nullopt) {
+    complaint = session.loadPlugin(corvaneBundle());
+    session.start();
+    if (svg) open(*svg);
+  }
+
+  void open(const std::string& svg) {
+    drawing = drawingOf(svg);
+    session.openDocument(drawing.document, "drawing", {});
+  }
+
+  // Options of the marks command: shape 0 round, 1 cross; action 1 corner, 2 auto, 3 edge; points.
+  void setOptions(std::int32_t shape, std::int32_t action, double size, double weight, double amount = 0.5) {
+    Preferences& preferences = host.preferences();
+    preferences.put("Corvane", "Shape", shape + 1);
+    preferences.put("Corvane", "Action", action + 1);
+    preferences.put("Corvane", "Size", size);
+    preferences.put("Corvane", "StrokeWeight", weight);
+    preferences.put("Corvane", "sliderrealvalue", amount);
+  }
+
+  Host host;
+  Session session{host};
+  std::string complaint;
+  SvgDrawing drawing;
+};
+
+}  // namespace host
