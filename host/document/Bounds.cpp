@@ -1,0 +1,135 @@
+#include "Bounds.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "Cubic.h"
+#include "Geometry.h"
+#include "Paint.h"
+#include "StrokeReach.h"
+#include "Vector.h"
+
+namespace host {
+
+namespace {
+
+void includePath(AIRealRect& rect, const PathGeometry& path, const AIRealMatrix& matrix) {
+  for (const AIPathSegment& segment : path.segments) include(rect, apply(matrix, segment.p));
+  for (std::size_t i = 0; i < curveCount(path); ++i) {
+    Cubic curve = curveAt(path, i);
+    for (AIRealPoint* point : {&curve.p0, &curve.p1, &curve.p2, &curve.p3}) *point = apply(matrix, *point);
+    if (contains(rect, curve.p1) && contains(rect, curve.p2)) continue;
+    const Parameters turns = extremes(curve);
+    for (std::size_t k = 0; k < turns.count; ++k) include(rect, pointAt(curve, turns.t[k]));
+  }
+}
+
+AIRealRect clipBounds(const Clip& clip, const AIRealMatrix& matrix) {
+  AIRealRect result{-HUGE_VAL, HUGE_VAL, HUGE_VAL, -HUGE_VAL};
+  for (const Clip* current = &clip; current != nullptr; current = current->further.get()) {
+    AIRealRect own = kEmptyRect;
+    for (const Clip::Outline& outline : current->outlines) {
+      for (const PathGeometry& path : outline.paths) includePath(own, path, matrix);
+    }
+    result = intersect(result, own);
+  }
+  return result;
+}
+
+// Walks an art and all below it. What it has found already spares a closer look at what lies inside that.
+class BoundsFinder {
+ public:
+  BoundsFinder(const Document& document, const AIRealMatrix& matrix, std::int32_t flags)
+      : document_(document), matrix_(matrix), flags_(flags) {
+    widening_ = std::max(std::hypot(matrix.a, matrix.c), std::hypot(matrix.b, matrix.d));
+  }
+
+  AIRealRect boundsOf(ArtId top) {
+    const AIRealRect all{-HUGE_VAL, HUGE_VAL, HUGE_VAL, -HUGE_VAL};
+    std::vector<AIRealRect> limits;  // of the current art and those that hold it
+    ArtId id = top;
+    while (document_.art(id) != nullptr) {
+      const Art& art = *document_.art(id);
+      AIRealRect limit = limits.empty() ? all : limits.back();
+      if (art.clip) limit = intersect(limit, clipBounds(*art.clip, matrix_));
+      add(id, art, limit);
+      if (art.firstChild != 0 && !isEmpty(limit)) {
+        limits.push_back(limit);
+        id = art.firstChild;
+        continue;
+      }
+      while (id != top && document_.art(id)->below == 0) {
+        id = document_.art(id)->parent;
+        limits.pop_back();
+      }
+      if (id == top) break;
+      id = document_.art(id)->below;
+    }
+    return found_;
+  }
+
+ private:
+  void add(ArtId id, const Art& art, const AIRealRect& limit) {
+    if (art.guide && (flags_ & kExcludeGuideBounds) != 0) return;
+    if (art.path) addPath(*art.path, document_.styleOf(id), limit);
+    if (art.body) addBody(*art.body, limit);
+  }
+
+  void addBody(const Body& body, const AIRealRect& limit) {
+    for (const Body::Part& part : body.parts) {
+      const AIRealRect partLimit = part.clip ? intersect(limit, clipBounds(*part.clip, matrix_)) : limit;
+      for (const PathGeometry& path : part.paths) addPath(path, &part.style, partLimit);
+    }
+    if (!body.parts.empty() || isEmpty(body.box)) return;
+    AIRealRect box = kEmptyRect;
+    for (const double x : {body.box.left, body.box.right}) {
+      for (const double y : {body.box.bottom, body.box.top}) include(box, apply(matrix_, {x, y}));
+    }
+    found_ = unite(found_, intersect(box, limit));
+  }
+
+  void addPath(const PathGeometry& path, const AIPathStyle* style, const AIRealRect& limit) {
+    const bool stroked = style != nullptr && paintsStroke(*style);
+    const bool painted = stroked || (style != nullptr && paintsFill(*style));
+    if (!painted && (flags_ & kExcludeUnpaintedObjectBounds) != 0) return;
+    const bool counts = stroked && (flags_ & kNoStrokeBounds) == 0;
+    const StrokePen pen = counts ? strokePen(style->stroke) : StrokePen{};
+    if (contains(found_, intersect(roughBounds(path, pen), limit))) return;
+    AIRealRect rect = kEmptyRect;
+    includePath(rect, path, matrix_);
+    if (counts) includeStroke(rect, path, pen, matrix_);
+    found_ = unite(found_, intersect(rect, limit));
+  }
+
+  // Holds the path and its stroke.
+  AIRealRect roughBounds(const PathGeometry& path, const StrokePen& pen) const {
+    AIRealRect rect = kEmptyRect;
+    for (const AIPathSegment& segment : path.segments) {
+      for (const AIRealPoint point : {segment.p, segment.in, segment.out})
+        include(rect, apply(matrix_, point));
+    }
+    const double miter = pen.join == kAIMiterJoin ? pen.miterLimit : 1;
+    return inflated(rect, pen.half * std::max(miter, 1.5) * widening_ * (1 + 1e-9));
+  }
+
+  const Document& document_;
+  const AIRealMatrix& matrix_;
+  std::int32_t flags_;
+  double widening_;
+  AIRealRect found_ = kEmptyRect;
+};
+
+}  // namespace
+
+AIRealRect artBounds(const Document& document, ArtId art, const AIRealMatrix* matrix, std::int32_t flags) {
+  return BoundsFinder(document, matrix == nullptr ? kIdentity : *matrix, flags).boundsOf(art);
+}
+
+AIRealRect pathBounds(const PathGeometry& path) {
+  AIRealRect rect = kEmptyRect;
+  includePath(rect, path, kIdentity);
+  return rect;
+}
+
+}  // namespace host
