@@ -1,0 +1,239 @@
+#include "SvgArtWriter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "SvgHostText.h"
+#include "SvgMove.h"
+#include "SvgPathText.h"
+#include "SvgStyleEdit.h"
+#include "SvgXmlText.h"
+
+namespace host {
+namespace {
+
+constexpr double kPointsPerPixel = 0.75;
+
+bool isPath(const Art& art) {
+  return art.type == kPathArt || art.type == kCompoundPathArt;
+}
+
+// What makes other shapes than paths, and what would make a path again from other data.
+constexpr std::string_view kShapeAttributes[] = {"x",  "y", "width", "height", "rx", "ry", "cx",
+                                                 "cy", "r", "x1",    "y1",     "x2", "y2", "points"};
+constexpr std::string_view kInkscapeAttributes[] = {"original-d", "path-effect", "connector-curvature"};
+constexpr std::string_view kSodipodiAttributes[] = {"type", "nodetypes"};
+
+}  // namespace
+
+void SvgArtWriter::cutLost() {
+  const auto count = static_cast<ArtId>(writing_.drawing.originalArt.size());
+  for (ArtId id = 1; id <= count; ++id) {
+    const NodeIndex element = writing_.changes.originalElementOf(id);
+    const bool lost = element != 0 && writing_.changes.elementOf(id) == 0;
+    if (lost && writing_.canEdit(element)) writing_.plan.cut(element);
+  }
+}
+
+void SvgArtWriter::writeChildren(ArtId container, NodeIndex element) {
+  const std::vector<ArtId> now = writing_.changes.children(container);
+  const std::vector<bool> inPlace = entriesInPlace(now, writing_.changes.originalChildren(container));
+  const SvgInserter& inserter = writing_.inserter;
+  std::vector<ArtId> run;
+  NodeIndex below = 0;
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    const NodeIndex child = inPlace[i] ? writing_.changes.elementOf(now[i]) : 0;
+    if (child == 0) {
+      run.push_back(now[i]);
+      continue;
+    }
+    if (!run.empty() && writing_.canEdit(below != 0 ? below : child)) {
+      insertRun(run, below != 0 ? inserter.behind(below) : inserter.before(child));
+    }
+    run.clear();
+    below = child;
+    editKept(now[i], child);
+  }
+  if (run.empty() || !writing_.canEdit(below != 0 ? below : element)) return;
+  insertRun(run, below != 0 ? inserter.behind(below) : inserter.inside(element));
+}
+
+void SvgArtWriter::insertRun(const std::vector<ArtId>& run, const SvgSpot& spot) {
+  const SvgPlace place = placeAt(writing_, spot);
+  for (const ArtId id : run) writing_.inserter.insert(spot, content(id, place));
+}
+
+NodeIndex SvgArtWriter::lowestInPlace(ArtId container) const {
+  const std::vector<ArtId> now = writing_.changes.children(container);
+  const std::vector<bool> inPlace = entriesInPlace(now, writing_.changes.originalChildren(container));
+  const auto found = std::find(inPlace.begin(), inPlace.end(), true);
+  if (found == inPlace.end()) return 0;
+  return writing_.changes.elementOf(now[static_cast<std::size_t>(found - inPlace.begin())]);
+}
+
+NodeIndex SvgArtWriter::topmostInPlace(ArtId container) const {
+  const std::vector<ArtId> now = writing_.changes.children(container);
+  const std::vector<bool> inPlace = entriesInPlace(now, writing_.changes.originalChildren(container));
+  const auto found = std::find(inPlace.rbegin(), inPlace.rend(), true);
+  if (found == inPlace.rend()) return 0;
+  return writing_.changes.elementOf(now[static_cast<std::size_t>(inPlace.rend() - found) - 1]);
+}
+
+SvgNewContent SvgArtWriter::newChildren(ArtId container, const SvgPlace& place) {
+  SvgNewContent result;
+  for (const ArtId child : writing_.changes.children(container)) {
+    result.add(place.lineBreak);
+    result.add(content(child, place));
+  }
+  return result;
+}
+
+SvgNewContent SvgArtWriter::content(ArtId id, const SvgPlace& place) {
+  const NodeIndex element = writing_.changes.elementOf(id);
+  if (element != 0) return moved(id, element, place);
+  const Art& art = *writing_.document.art(id);
+  if (art.type == kGroupArt) return newGroup(id, place);
+  SvgNewContent result;
+  if (isPath(art)) result.add(newPath(id, place));
+  return result;
+}
+
+SvgNewContent SvgArtWriter::moved(ArtId id, NodeIndex element, const SvgPlace& place) {
+  SvgNewContent result;
+  if (!writing_.canEdit(element)) return result;
+  SvgTagEdit tag(writing_.source, writing_.declared, element);
+  const bool otherRules = adaptToPlace(writing_, element, place, tag) && writing_.declared.hasSheet();
+  movedUnderSheets_ += otherRules ? 1 : 0;
+  editKept(id, element, tag);
+  movedUnderSheets_ -= otherRules ? 1 : 0;
+  writing_.plan.cut(element);
+  result.addMoved(element);
+  return result;
+}
+
+std::string SvgArtWriter::newTag(std::string_view element, ArtId id, const SvgPlace& place) {
+  std::string tag = "<" + writing_.prefixes.elementName(place.parent, element);
+  const std::string& name = writing_.document.art(id)->name;
+  if (name.empty()) return tag;
+  appendAttribute(tag, writing_.prefixes.name(place.parent, XmlNamespace::Inkscape, "label", place.scope),
+                  name);
+  return tag;
+}
+
+SvgNewContent SvgArtWriter::newGroup(ArtId id, const SvgPlace& place) {
+  SvgNewContent result;
+  result.add(newTag("g", id, place));
+  if (writing_.document.art(id)->firstChild == 0) {
+    result.add("/>");
+    return result;
+  }
+  SvgPlace inner = place;
+  if (!inner.lineBreak.empty()) inner.lineBreak += inner.indent;
+  result.add(">");
+  result.add(newChildren(id, inner));
+  result.add(place.lineBreak + "</" + writing_.prefixes.elementName(place.parent, "g") + ">");
+  return result;
+}
+
+std::string SvgArtWriter::newPath(ArtId id, const SvgPlace& place) {
+  const Art& art = *writing_.document.art(id);
+  std::string tag = newTag("path", id, place);
+  if (art.style) {
+    const SvgStyleWords words = styleWords(*art.style, writing_.document, place.documentUnitsPerUser);
+    tag += newStyleAttributes(words, place.parent, writing_.declared, writing_.prefixes, place.scope);
+  }
+  if (isShortCompound(id)) {
+    appendAttribute(tag, writing_.prefixes.name(place.parent, XmlNamespace::Host, kHostKind, place.scope),
+                    "compound");
+  }
+  appendAttribute(tag, "d", pathData(id, place.userFromDocument));
+  return tag + "/>";
+}
+
+void SvgArtWriter::editKept(ArtId id, NodeIndex element) {
+  const Art& before = *writing_.changes.original(id);
+  const Art& now = *writing_.document.art(id);
+  const bool changed = now.name != before.name || movedUnderSheets_ > 0 ||
+                       (isPath(now) && (looksDifferent(id) || writing_.changes.isReshaped(id)));
+  if (changed && writing_.canEdit(element)) {
+    SvgTagEdit tag(writing_.source, writing_.declared, element);
+    editKept(id, element, tag);
+  } else if (now.type == kGroupArt) {
+    writeChildren(id, element);
+  }
+}
+
+void SvgArtWriter::editKept(ArtId id, NodeIndex element, SvgTagEdit& tag) {
+  const Art& now = *writing_.document.art(id);
+  if (now.name != writing_.changes.original(id)->name) tag.set(XmlNamespace::Inkscape, "label", now.name);
+  if (isPath(now)) {
+    if (writing_.changes.isReshaped(id)) editOutline(id, element, tag);
+    editPathStyle(id, element, tag);
+  }
+  tag.write(writing_.plan, writing_.prefixes);
+  if (now.type == kGroupArt) writeChildren(id, element);
+}
+
+void SvgArtWriter::editOutline(ArtId id, NodeIndex element, SvgTagEdit& tag) {
+  const SvgSource& source = writing_.source;
+  const auto drop = [&](XmlNamespace nameSpace, std::string_view name) {
+    if (source.attribute(element, nameSpace, name)) tag.remove(nameSpace, name);
+  };
+  for (const std::string_view name : kInkscapeAttributes) drop(XmlNamespace::Inkscape, name);
+  for (const std::string_view name : kSodipodiAttributes) drop(XmlNamespace::Sodipodi, name);
+  if (!source.is(element, "path")) {
+    tag.rename("path");
+    for (const std::string_view name : kShapeAttributes) drop(XmlNamespace::None, name);
+  }
+  const AIRealMatrix documentFromUser = writing_.documentFromContent(element);
+  tag.set("d", pathData(id, userFromDocument(writing_, documentFromUser)));
+  if (isShortCompound(id)) {
+    tag.set(XmlNamespace::Host, kHostKind, "compound");
+  } else {
+    drop(XmlNamespace::Host, kHostKind);
+  }
+}
+
+bool SvgArtWriter::looksDifferent(ArtId id) const {
+  const auto& now = writing_.document.art(id)->style;
+  const auto& before = writing_.changes.original(id)->style;
+  return now != before &&
+         !(styleWords(*now, writing_.document, 1) == styleWords(*before, writing_.document, 1));
+}
+
+void SvgArtWriter::editPathStyle(ArtId id, NodeIndex element, SvgTagEdit& tag) {
+  // Rules that go by the name of the element don't apply any more once it became a path.
+  const bool renamed = writing_.changes.isReshaped(id) && !writing_.source.is(element, "path");
+  const bool inFull = movedUnderSheets_ > 0 || (renamed && writing_.declared.hasSheet());
+  if (!looksDifferent(id) && !inFull) return;
+  const bool fixedStroke = writing_.declared.on(element, "vector-effect") == "non-scaling-stroke";
+  const double unit = fixedStroke ? kPointsPerPixel / writing_.document.scale()
+                                  : strokeScale(writing_.documentFromContent(element));
+  const SvgStyleWords now = styleWords(*writing_.document.art(id)->style, writing_.document, unit);
+  const SvgStyleWords before =
+      inFull ? SvgStyleWords() : styleWords(*writing_.changes.original(id)->style, writing_.document, unit);
+  editStyle(before, now, element, writing_.source, writing_.declared, tag);
+}
+
+// A compound path of less than two outlines looks like a plain path.
+bool SvgArtWriter::isShortCompound(ArtId id) const {
+  if (writing_.document.art(id)->type != kCompoundPathArt) return false;
+  const std::vector<ArtId> paths = writing_.changes.children(id);
+  const auto isDrawn = [this](ArtId path) { return !writing_.document.art(path)->path->segments.empty(); };
+  return std::count_if(paths.begin(), paths.end(), isDrawn) < 2;
+}
+
+std::string SvgArtWriter::pathData(ArtId id, const AIRealMatrix& userFromDocument) const {
+  const Art& art = *writing_.document.art(id);
+  std::string data;
+  if (art.type == kPathArt) {
+    appendPathData(data, *art.path, userFromDocument);
+  } else {
+    for (const ArtId path : writing_.changes.children(id)) {
+      appendPathData(data, *writing_.document.art(path)->path, userFromDocument);
+    }
+  }
+  return data;
+}
+
+}  // namespace host

@@ -1,0 +1,38 @@
+// What became of the art and layers that were read: kept, moved, gone.
+#pragma once
+
+#include <vector>
+
+#include "SvgDrawing.h"
+
+namespace host {
+
+// Which entries of `now` stay where they are, if as few as possible are to be moved: a longest part of it
+// that has the order of `before`.
+std::vector<bool> entriesInPlace(const std::vector<ObjectId>& now, const std::vector<ObjectId>& before);
+
+// Lists of children run from the bottom up, as a file is written.
+class SvgChanges {
+ public:
+  explicit SvgChanges(const SvgDrawing& drawing);
+
+  const Art* original(ArtId id) const;  // null for art that was not read
+  const Layer* originalLayer(LayerId id) const;
+
+  // The element that the art had for itself in the file, has still; 0 if it had or has none, as a path of
+  // a compound path, which is part of another one's.
+  NodeIndex originalElementOf(ArtId id) const;
+  NodeIndex elementOf(ArtId id) const;
+
+  std::vector<ArtId> originalChildren(ArtId id) const;
+  std::vector<ArtId> children(ArtId id) const;
+
+  // Has the outline of a path, or of a compound path, changed?
+  bool isReshaped(ArtId id) const;
+
+ private:
+  const SvgDrawing& drawing_;
+  const Document& document_;
+};
+
+}  // namespace host

@@ -1,0 +1,68 @@
+#include "SvgPathText.h"
+
+#include "Geometry.h"
+#include "SvgNumber.h"
+
+namespace host {
+namespace {
+
+bool same(AIRealPoint a, AIRealPoint b) {
+  return a.x == b.x && a.y == b.y;
+}
+
+class DataText {
+ public:
+  DataText(std::string& data, const AIRealMatrix& userFromDocument)
+      : data_(data), userFromDocument_(userFromDocument) {}
+
+  void command(char letter) {
+    if (!data_.empty()) data_ += ' ';
+    data_ += letter;
+  }
+
+  void point(AIRealPoint documentPoint) {
+    const AIRealPoint user = apply(userFromDocument_, documentPoint);
+    data_ += ' ';
+    appendNumber(data_, user.x);
+    data_ += ',';
+    appendNumber(data_, user.y);
+  }
+
+  void side(const AIPathSegment& from, const AIPathSegment& to) {
+    if (same(from.p, from.out) && same(to.in, to.p)) {
+      command('L');
+    } else {
+      command('C');
+      point(from.out);
+      point(to.in);
+    }
+    point(to.p);
+  }
+
+ private:
+  std::string& data_;
+  const AIRealMatrix& userFromDocument_;
+};
+
+// Readers join a last anchor that lies on the first one, so that Z alone stands for a straight side
+// between two different places only.
+bool closesByItself(const AIPathSegment& last, const AIPathSegment& first) {
+  return same(last.p, last.out) && same(first.in, first.p) && !same(last.p, first.p);
+}
+
+}  // namespace
+
+void appendPathData(std::string& data, const PathGeometry& path, const AIRealMatrix& userFromDocument) {
+  if (path.segments.empty()) return;
+  DataText text(data, userFromDocument);
+  const AIPathSegment& first = path.segments.front();
+  const AIPathSegment& last = path.segments.back();
+  text.command('M');
+  text.point(first.p);
+  for (std::size_t i = 1; i < path.segments.size(); ++i) text.side(path.segments[i - 1], path.segments[i]);
+  if (!path.closed) return;
+  if (!closesByItself(last, first)) text.side(last, first);
+  text.command('Z');
+}
+
+}  // namespace host

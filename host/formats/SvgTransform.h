@@ -1,0 +1,16 @@
+// Values of `transform`.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "AITypes.h"
+
+namespace host {
+
+// The list's product. Nullopt if the value is at fault, and then none of it counts, as in browsers.
+// Numbers may carry px and angles deg, grad, rad or turn, as in CSS.
+// https://www.w3.org/TR/css-transforms-1/#svg-transform
+std::optional<AIRealMatrix> parseTransform(std::string_view text);
+
+}  // namespace host

@@ -1,0 +1,58 @@
+#include "SvgWriting.h"
+
+#include <cmath>
+
+#include "Geometry.h"
+#include "SvgContext.h"
+
+namespace host {
+
+SvgWriting::SvgWriting(const SvgDrawing& fileDrawing, const SvgSource& fileSource)
+    : drawing(fileDrawing),
+      source(fileSource),
+      document(*fileDrawing.document),
+      changes(fileDrawing),
+      layout(fileSource),
+      declared(fileSource),
+      prefixes(fileSource),
+      plan(fileSource, layout),
+      inserter(fileSource, layout, plan) {}
+
+bool SvgWriting::canEdit(NodeIndex element) {
+  if (!source.node(element).editable) metEntity = true;
+  return source.node(element).editable;
+}
+
+AIRealMatrix SvgWriting::documentFromContent(NodeIndex element) {
+  const auto known = documentFromContents_.find(element);
+  if (known != documentFromContents_.end()) return known->second;
+  const bool hasViewport = source.is(element, "svg");
+  const AIRealMatrix found =
+      hasViewport ? documentFromContentOf(drawing, element)
+                  : concat(transformOf(source, element), documentFromContent(source.node(element).parent));
+  if (hasViewport || source.node(element).firstChild != 0) documentFromContents_.emplace(element, found);
+  return found;
+}
+
+SvgPlace placeAt(SvgWriting& writing, const SvgSpot& spot) {
+  const AIRealMatrix documentFromUser = writing.documentFromContent(spot.parent);
+  SvgPlace place;
+  place.parent = spot.parent;
+  place.userFromDocument = userFromDocument(writing, documentFromUser);
+  place.documentUnitsPerUser = strokeScale(documentFromUser);
+  place.lineBreak = spot.lineBreak;
+  place.indent = spot.indent;
+  return place;
+}
+
+AIRealMatrix userFromDocument(const SvgWriting& writing, const AIRealMatrix& documentFromUser) {
+  AIRealMatrix inverse = kIdentity;
+  if (!invert(documentFromUser, inverse)) invert(writing.drawing.documentFromRoot, inverse);
+  return inverse;
+}
+
+double strokeScale(const AIRealMatrix& documentFromUser) {
+  return std::sqrt(std::abs(determinant(documentFromUser)));
+}
+
+}  // namespace host

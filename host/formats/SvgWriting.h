@@ -1,0 +1,58 @@
+// What all parts of the writer share while one file is written.
+#pragma once
+
+#include <unordered_map>
+
+#include "SvgChanges.h"
+#include "SvgDeclared.h"
+#include "SvgEditPlan.h"
+#include "SvgInserter.h"
+#include "SvgLayout.h"
+#include "SvgPrefixes.h"
+
+namespace host {
+
+struct SvgWriting {
+  // `source` is the drawing's own, or the same with its entities expanded.
+  SvgWriting(const SvgDrawing& drawing, const SvgSource& source);
+  SvgWriting(const SvgWriting&) = delete;
+  SvgWriting& operator=(const SvgWriting&) = delete;
+
+  // False for an element out of an entity, which is noted in `metEntity`.
+  bool canEdit(NodeIndex element);
+  // As documentFromContentOf(), but quick for many elements of one parent.
+  AIRealMatrix documentFromContent(NodeIndex element);
+
+  const SvgDrawing& drawing;
+  const SvgSource& source;
+  const Document& document;
+  SvgChanges changes;
+  SvgLayout layout;
+  SvgDeclared declared;
+  SvgPrefixes prefixes;
+  SvgEditPlan plan;
+  SvgInserter inserter;
+  bool metEntity = false;
+
+ private:
+  std::unordered_map<NodeIndex, AIRealMatrix> documentFromContents_;  // of elements with children
+};
+
+// Where new content is going to stand.
+struct SvgPlace {
+  NodeIndex parent = 0;  // the element of the file that it comes to lie in
+  AIRealMatrix userFromDocument{};
+  double documentUnitsPerUser = 1;
+  std::string lineBreak;  // before the element
+  std::string indent;     // one step further in
+  SvgScope scope = kRootScope;
+};
+
+SvgPlace placeAt(SvgWriting& writing, const SvgSpot& spot);
+
+// The inverse of a transform; where that flattens the plane nothing is ever seen, and the root's serves.
+AIRealMatrix userFromDocument(const SvgWriting& writing, const AIRealMatrix& documentFromUser);
+// By how much a transform scales strokes.
+double strokeScale(const AIRealMatrix& documentFromUser);
+
+}  // namespace host
