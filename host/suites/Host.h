@@ -1,0 +1,107 @@
+// The application as plug-ins see it: what the function tables of the suites work on.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "Documents.h"
+#include "Folders.h"
+#include "MenuTable.h"
+#include "Preferences.h"
+#include "Refusal.h"
+#include "Registrations.h"
+#include "ToolTable.h"
+
+struct SPBasicSuite;
+
+namespace host {
+
+struct HostObjects;
+struct SuiteOffer;
+class HitTests;
+
+enum class AlertKind { Message, Error };
+
+struct Alert {
+  AlertKind kind;
+  std::string text;  // UTF-8
+};
+
+// One at a time in a process: it is the one the tables call from construction to destruction. Without
+// one every entry fails. All on one thread.
+class Host {
+ public:
+  explicit Host(Preferences preferences = {}, Folders folders = {});
+  Host(const Host&) = delete;
+  Host& operator=(const Host&) = delete;
+  ~Host();
+
+  static Host* current() { return current_; }
+
+  // For the head of every message; the way to all suites.
+  const SPBasicSuite* basic() const;
+
+  Documents& documents() { return documents_; }
+  Document* currentDocument() {  // null if none is open
+    OpenDocument* current = documents_.current();
+    return current == nullptr ? nullptr : current->document.get();
+  }
+
+  // What plug-ins registered, in order of registration. The host's user adds plug-ins and tools of its own.
+  PluginRecord& addPlugin(std::string name, std::string bundle);  // `bundle`: absolute path of its folder
+  Registry<PluginRecord>& plugins() { return plugins_; }
+  Registry<NotifierRecord>& notifiers() { return notifiers_; }
+  Registry<AnnotatorRecord>& annotators() { return annotators_; }
+  MenuTable& menus() { return menus_; }
+  ToolTable& tools() { return tools_; }
+
+  // Bits of the application's state for MenuItem::enabledIn.
+  std::int32_t menuState() { return currentDocument() != nullptr ? kIfOpenDocument : 0; }
+
+  Preferences& preferences() { return preferences_; }
+  const Folders& folders() const { return folders_; }
+
+  // Shows an alert and returns when it was answered; all that came up are kept in `alerts` too.
+  std::function<void(const Alert&)> showAlert;
+  const std::vector<Alert>& alerts() const { return alerts_; }
+  void alert(AlertKind kind, std::string text);
+
+  // Called after a plug-in changed the view of a document.
+  std::function<void(const OpenDocument&)> onViewChange;
+
+  bool interactionAllowed = true;    // false: plug-ins are to show nothing
+  bool endingWithoutSaving = false;  // an emergency exit is under way
+
+  Refusal& refusal() { return refusal_; }
+
+  // How many acquisitions of a suite are not released yet; of all suites together.
+  std::int32_t holds(const std::string& suite) const;
+  std::int32_t holds() const;
+
+  // For the suites.
+  HostObjects& objects() { return *objects_; }
+  HitTests& hitTests() { return *hitTests_; }
+  std::int32_t& holdCount(const SuiteOffer& offer);
+
+ private:
+  static Host* current_;
+
+  Documents documents_;
+  Registry<PluginRecord> plugins_;
+  Registry<NotifierRecord> notifiers_;
+  Registry<AnnotatorRecord> annotators_;
+  MenuTable menus_;
+  ToolTable tools_;
+  Preferences preferences_;
+  Folders folders_;
+  std::vector<Alert> alerts_;
+  Refusal refusal_;
+  std::vector<std::int32_t> holdCounts_;  // in the order of the catalogue
+  std::unique_ptr<HostObjects> objects_;
+  std::unique_ptr<HitTests> hitTests_;
+};
+
+}  // namespace host

@@ -1,0 +1,36 @@
+// The suites that have entries, one function each; called once, by the catalogue.
+#pragma once
+
+#include "SuiteCatalog.h"
+
+namespace host {
+
+SuiteOffer annotatorSuite();
+SuiteOffer artSuite();
+SuiteOffer artboardSuite();
+SuiteOffer customColorSuite();
+SuiteOffer documentSuite();
+SuiteOffer documentViewSuite();
+SuiteOffer filePathSuite();
+SuiteOffer foldersSuite();
+SuiteOffer hitTestSuite();
+SuiteOffer layerSuite();
+SuiteOffer menuSuite();
+SuiteOffer notifierSuite();
+SuiteOffer pathSuite();
+SuiteOffer pathStyleSuite();
+SuiteOffer preferenceSuite();
+SuiteOffer realMathSuite();
+SuiteOffer runtimeSuite();
+SuiteOffer swatchGroupSuite();
+SuiteOffer swatchListSuite();
+SuiteOffer toolSuite();
+SuiteOffer unicodeStringSuite();
+SuiteOffer userInteractionSuite();
+SuiteOffer userSuite();
+SuiteOffer accessSuite();
+SuiteOffer basicSuite();
+SuiteOffer blocksSuite();
+SuiteOffer pluginsSuite();
+
+}  // namespace host

@@ -1,0 +1,40 @@
+#include "ToolTable.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace host {
+
+ToolRecord& ToolTable::add(ToolRecord tool) {
+  if (tool.group <= 0) tool.group = static_cast<int>(visible_.size()) + 1;
+  const auto groups = std::max(visible_.size(), static_cast<std::size_t>(tool.group));
+  visible_.resize(groups, nullptr);
+  ToolRecord& added = tools_.add(std::move(tool));
+  AIToolHandle& member = visible_[static_cast<std::size_t>(added.group) - 1];
+  if (member == nullptr) member = added.handle;
+  return added;
+}
+
+const ToolRecord* ToolTable::visibleMember(int group) const {
+  if (group < 1 || static_cast<std::size_t>(group) > visible_.size()) return nullptr;
+  return tools_.find(visible_[static_cast<std::size_t>(group) - 1]);
+}
+
+bool ToolTable::select(AIToolHandle tool) {
+  const ToolRecord* record = tools_.find(tool);
+  if (record == nullptr) return false;
+  visible_[static_cast<std::size_t>(record->group) - 1] = tool;
+  return change(tool);
+}
+
+bool ToolTable::restore(AIToolHandle tool) {
+  return tools_.find(tool) != nullptr && change(tool);
+}
+
+bool ToolTable::change(AIToolHandle tool) {
+  const AIToolHandle before = std::exchange(selected_, tool);
+  if (before != tool && onChange) onChange(tools_.find(before), tools_.find(tool));
+  return true;
+}
+
+}  // namespace host
