@@ -18,7 +18,7 @@ CLI::Option* addLength(CLI::App& command, const std::string& name, double& point
       .add_option_function<std::string>(
           name,
           [&points](const std::string& text) {
-            const std::optional<double> length = parseLength(text);
+            const std::optional<double> length = pointsOf(text);
             if (!length) throw CLI::ValidationError("\"" + text + "\" is no length; write 10pt, 6mm or 0.25in");
             points = *length;
           },

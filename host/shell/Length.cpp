@@ -22,7 +22,7 @@ constexpr std::array<Unit, 7> kUnits{{{"", 1.0},
 
 }  // namespace
 
-std::optional<double> parseLength(std::string_view text) {
+std::optional<double> pointsOf(std::string_view text) {
   double value = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (error != std::errc() || !std::isfinite(value) || value < 0) return std::nullopt;

@@ -83,12 +83,9 @@ class MarksRun {
 
   ExitCode prepare() {
     if (!common_.language.empty()) setenv("LANGUAGE", common_.language.c_str(), 1);
-    overlayOptions();
-    for (const std::string& assignment : common_.preferences) {
-      if (const std::string wrong = host_.preferences().overlayText(assignment); !wrong.empty()) {
-        complain(wrong);
-        return kExitUsage;
-      }
+    if (const std::string wrong = overlayOptions(); !wrong.empty()) {
+      complain(wrong);
+      return kExitUsage;
     }
     for (const std::string& rule : common_.refuse) {
       if (const std::string wrong = host_.refusal().add(rule); !wrong.empty()) {
@@ -111,7 +108,9 @@ class MarksRun {
     return kExitDone;
   }
 
-  void overlayOptions() {
+  // Anew for every drawing, since the product stores what it used. Empty, or a sentence on a preference that
+  // is none.
+  std::string overlayOptions() {
     const auto overlay = [this](const char* key, PreferenceValue value) {
       host_.preferences().overlay(kMarksProduct.preferencePrefix, key, std::move(value));
     };
@@ -120,6 +119,10 @@ class MarksRun {
     overlay(kMarksProduct.amountKey, arguments_.amount);
     overlay(kMarksProduct.shapeKey, static_cast<std::int32_t>(arguments_.shape) + 1);
     overlay(kMarksProduct.placementKey, static_cast<std::int32_t>(arguments_.placement) + 1);
+    for (const std::string& assignment : common_.preferences) {
+      if (std::string wrong = host_.preferences().overlayText(assignment); !wrong.empty()) return wrong;
+    }
+    return {};
   }
 
   // Pairs inputs with outputs. Empty, or a sentence on two drawings that would become one file.
@@ -145,6 +148,7 @@ class MarksRun {
     }
     const SvgDrawing drawing = std::move(std::get<SvgDrawing>(opened));
     const std::size_t alertsBefore = host_.alerts().size();
+    overlayOptions();
     session_.openDocument(drawing.document, shownName(input), input == kStandardStream ? "" : input);
     const std::optional<SPErr> code = session_.chooseMenuItem(kMarksProduct.menuKey);
     session_.closeDocument(*drawing.document);

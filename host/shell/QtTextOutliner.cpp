@@ -14,13 +14,18 @@ namespace {
 // Outlines are made at this size and scaled, so that hinting and rounding don't show.
 constexpr int kDesignPixels = 1000;
 
+// Qt would tell the user of folders that only a window needs.
+void dropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
 void ensureGuiApplication() {
   if (QGuiApplication::instance() != nullptr) return;
+  const QtMessageHandler before = qInstallMessageHandler(dropMessage);
   static int argc = 1;
   static char name[] = "corvane-host";
   static char* argv[] = {name, nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
   static const QGuiApplication application(argc, argv);
+  qInstallMessageHandler(before);
 }
 
 QFont fontOf(const TextRun& run) {

@@ -35,9 +35,12 @@ inline SvgDrawing drawingOf(std::string svg) {
   return std::move(std::get<SvgDrawing>(read));
 }
 
-// One square of 200 pt, 100 pt from the left and the lower edge of a page of 600 x 800 pt.
-inline std::string squareOnPage() {
-  return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"600pt\" height=\"800pt\" viewBox=\"0 0 600 800\">\n"
+// One square of 200 pt, 100 pt from the left and the lower edge of a page of 600 x 800 pt. With a scale a
+// document unit is that many points.
+inline std::string squareOnPage(int scale = 1) {
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:ch=\"urn:x-corvane-host:drawing:1\" ch:scale=\"" +
+         std::to_string(scale) +
+         "\" width=\"600pt\" height=\"800pt\" viewBox=\"0 0 600 800\">\n"
          "  <rect x=\"100\" y=\"500\" width=\"200\" height=\"200\" fill=\"#f00\"/>\n"
          "</svg>\n";
 }

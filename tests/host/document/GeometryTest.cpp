@@ -1,0 +1,130 @@
+#include "Geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "Cubic.h"
+#include "DrawingMaker.h"
+#include "Vector.h"
+
+namespace host {
+namespace {
+
+using testing::curved;
+using testing::Points;
+using testing::straight;
+
+void expectSame(const AIRealRect& a, const AIRealRect& b) {
+  EXPECT_EQ(a.left, b.left);
+  EXPECT_EQ(a.top, b.top);
+  EXPECT_EQ(a.right, b.right);
+  EXPECT_EQ(a.bottom, b.bottom);
+}
+
+TEST(Rectangles, EmptyOnesAddAndLeaveNothing) {
+  const AIRealRect a{0, 10, 10, 0};
+  const AIRealRect b{5, 30, 20, 8};
+  const AIRealRect backwards{3, 9, 2, 5};
+  expectSame(unite(a, b), {0, 30, 20, 0});
+  expectSame(unite(a, backwards), a);
+  expectSame(unite(backwards, a), a);
+  expectSame(unite(backwards, kEmptyRect), kEmptyRect);
+  expectSame(intersect(a, b), {5, 10, 10, 8});
+  expectSame(intersect(a, {10, 10, 12, 0}), {10, 10, 10, 0});
+  expectSame(intersect(a, {11, 10, 12, 0}), kEmptyRect);
+  expectSame(inflated(kEmptyRect, 5), kEmptyRect);
+}
+
+TEST(Matrices, ConcatDoesTheFirstFirst) {
+  const AIRealMatrix turn{0, 1, -1, 0, 0, 0};
+  const AIRealMatrix shift{1, 0, 0, 1, 5, 7};
+  const AIRealPoint point = apply(concat(turn, shift), {2, 3});
+  EXPECT_EQ(point.x, 2);
+  EXPECT_EQ(point.y, 9);
+}
+
+TEST(Matrices, InvertsAllThatDoNotFlatten) {
+  const AIRealPoint probe{3, -4};
+  for (const AIRealMatrix& m : {AIRealMatrix{2, 1, -1, 3, 5, 6}, AIRealMatrix{1e-9, 0, 0, 1e-9, 4, 4},
+                                AIRealMatrix{1e7, 0, 0, -1e-7, 0, 1}}) {
+    AIRealMatrix back{};
+    ASSERT_TRUE(invert(m, back));
+    const AIRealPoint there = apply(back, apply(m, probe));
+    EXPECT_NEAR(there.x, probe.x, 1e-6);
+    EXPECT_NEAR(there.y, probe.y, 1e-6);
+  }
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const AIRealMatrix& m :
+       {AIRealMatrix{0, 0, 0, 0, 1, 1}, AIRealMatrix{1, 2, 2, 4, 0, 0}, AIRealMatrix{1, 0, 0, 1, infinity, 0},
+        AIRealMatrix{std::nan(""), 0, 0, 1, 0, 0}}) {
+    AIRealMatrix kept{7, 7, 7, 7, 7, 7};
+    EXPECT_FALSE(invert(m, kept));
+    EXPECT_EQ(kept.tx, 7);
+  }
+}
+
+double distanceToPolyline(AIRealPoint p, const std::vector<AIRealPoint>& line) {
+  double least = HUGE_VAL;
+  for (std::size_t i = 0; i + 1 < line.size(); ++i) {
+    const AIRealPoint edge = line[i + 1] - line[i];
+    const double along = std::clamp(dot(p - line[i], edge) / squaredLength(edge), 0.0, 1.0);
+    least = std::min(least, length(line[i] + edge * along - p));
+  }
+  return least;
+}
+
+TEST(Flatten, KeepsToTheToleranceWithFewPoints) {
+  struct Case {
+    Points points;
+    double tolerance;
+    std::size_t mostPoints;
+  };
+  const std::vector<Case> cases = {
+      {{{0, 0}, {0, 55.2}, {44.8, 100}, {100, 100}}, 0.01, 70},  // a quarter of a circle
+      {{{0, 0}, {0, 55.2}, {44.8, 100}, {100, 100}}, 1, 8},
+      {{{0, 0}, {100, 0}, {-50, 0}, {50, 0}}, 0.01, 150},       // turns back on a line
+      {{{0, 0}, {100, 100}, {0, 100}, {100, 0}}, 0.01, 150},    // a cusp
+      {{{0, 0}, {30, 0.001}, {60, -0.001}, {90, 0}}, 0.01, 2},  // as good as straight
+      {{{0, 0}, {30, 0}, {60, 0}, {90, 0}}, 0.01, 2},
+      {{{0, 0}, {0, 0}, {90, 90}, {90, 90}}, 0.01, 2},
+      {{{5, 5}, {25, 5}, {5, 25}, {5, 5}}, 0.01, 60},  // a loop
+      {{{5, 5}, {5, 5}, {5, 5}, {5, 5}}, 0.01, 1},
+  };
+  for (const Case& c : cases) {
+    const std::vector<AIRealPoint> line = flatten(curved(c.points, false), c.tolerance, false);
+    EXPECT_LE(line.size(), c.mostPoints);
+    EXPECT_TRUE(line.front() == c.points.front() && line.back() == c.points.back());
+    const Cubic curve{c.points[0], c.points[1], c.points[2], c.points[3]};
+    for (int i = 0; i <= 1000 && line.size() > 1; ++i) {
+      ASSERT_LE(distanceToPolyline(pointAt(curve, i / 1000.0), line), c.tolerance * 1.0001) << i;
+    }
+  }
+}
+
+TEST(Flatten, ClosesWhatIsClosedAndWhatItIsToldTo) {
+  const Points corners = {{0, 0}, {10, 0}, {10, 10}};
+  EXPECT_EQ(flatten(straight(corners, false), 0.1, false).size(), 3U);
+  EXPECT_EQ(flatten(straight(corners, false), 0.1, true).size(), 4U);
+  EXPECT_EQ(flatten(straight(corners, true), 0.1, false).size(), 4U);
+  EXPECT_EQ(flatten(straight(corners, true), 0.1, true).size(), 4U);
+  EXPECT_EQ(flatten(straight({{0, 0}, {0, 0}, {5, 0}, {5, 0}, {0, 0}}, true), 0.1, true).size(), 3U);
+  EXPECT_EQ(flatten(straight({{1, 1}}, true), 0.1, true).size(), 1U);
+  EXPECT_TRUE(flatten(PathGeometry{}, 0.1, true).empty());
+}
+
+TEST(Flatten, IsBoundedWhateverTheNumbers) {
+  const double nan = std::nan("");
+  const double huge = std::numeric_limits<double>::max();
+  for (const double size : {1e9, huge, nan}) {
+    for (const double tolerance : {1e-9, 0.0, -1.0, nan}) {
+      const PathGeometry path = curved({{0, 0}, {0, size}, {size, size}, {size, 0}}, false);
+      EXPECT_LE(flatten(path, tolerance, true).size(), static_cast<std::size_t>(kMaxCurveSteps) + 2);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace host

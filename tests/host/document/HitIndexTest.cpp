@@ -1,0 +1,392 @@
+#include "HitIndex.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+#include <string>
+
+#include "AIHitTest.h"
+#include "DrawingMaker.h"
+#include "HitOracle.h"
+
+namespace host {
+namespace {
+
+using namespace testing;  // NOLINT: the makers of this folder
+
+AIPathStyle both(const AIPathStyle& stroke, bool evenOdd = false) {
+  AIPathStyle style = stroke;
+  style.fillPaint = 1;
+  style.fill.color.kind = kGradient;
+  style.evenodd = evenOdd;
+  return style;
+}
+
+TEST(HitIndex, OnePath) {
+  struct Case {
+    const char* what;
+    PathGeometry path;
+    AIPathStyle style;
+    AIRealPoint point;
+    std::int32_t found;  // by which requests
+  };
+  const PathGeometry square = box(0, 0, 10, 10);
+  const PathGeometry open = straight({{0, 0}, {10, 0}, {10, 10}}, false);
+  const PathGeometry spike = straight({{0, 0}, {10, 1}, {0, 2}}, false);
+  const PathGeometry twice =
+      straight({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}, {10, 0}, {10, 10}, {0, 10}}, true);
+  const PathGeometry dot = straight({{5, 5}, {5, 5}}, false);
+  const AIPathStyle wide = stroked(4);
+  const std::vector<Case> cases = {
+      {"inside", square, filled(), {5, 5}, kFillHitRequest},
+      {"outside", square, filled(), {11, 5}, 0},
+      {"unpainted", square, unpainted(), {5, 5}, 0},
+      {"open, filled as if closed", open, filled(), {9, 1}, kFillHitRequest},
+      {"open, not on that side", open, filled(), {1, 9}, 0},
+      {"stroke only: inside", square, wide, {5, 5}, 0},
+      {"stroke only: on it", square, wide, {1.9, 5}, kStrokeHitRequest},
+      {"fill and stroke", square, both(wide), {1, 5}, kFillHitRequest | kStrokeHitRequest},
+      {"fill and stroke: outer half", square, both(wide), {-1, 5}, kStrokeHitRequest},
+      {"mitered corner", square, wide, {-1.9, -1.9}, kStrokeHitRequest},
+      {"bevelled corner", square, stroked(4, kAIButtCap, kAIBevelJoin), {-1.9, -1.9}, 0},
+      {"round corner", square, stroked(4, kAIButtCap, kAIRoundJoin), {-1.3, -1.3}, kStrokeHitRequest},
+      {"beyond a round corner", square, stroked(4, kAIButtCap, kAIRoundJoin), {-1.5, -1.5}, 0},
+      {"the open side has no stroke", open, wide, {5, 5}, 0},
+      {"butt end", open, wide, {-0.1, 0}, 0},
+      {"projecting end", open, stroked(4, kAIProjectingCap), {-1.9, 1.9}, kStrokeHitRequest},
+      {"round end", open, stroked(4, kAIRoundCap), {-1.9, 0}, kStrokeHitRequest},
+      {"beyond the round end", open, stroked(4, kAIRoundCap), {-1.9, 1.9}, 0},
+      {"long miter", spike, stroked(1, kAIButtCap, kAIMiterJoin, 20), {14, 1}, kStrokeHitRequest},
+      {"long miter cut", spike, stroked(1, kAIButtCap, kAIMiterJoin, 9), {11, 1}, 0},
+      {"twice round, non-zero", twice, filled(), {5, 5}, kFillHitRequest},
+      {"twice round, even-odd", twice, filled(true), {5, 5}, 0},
+      {"round dot", dot, stroked(4, kAIRoundCap), {5, 6.9}, kStrokeHitRequest},
+      {"projecting dot", dot, stroked(4, kAIProjectingCap), {6.9, 6.9}, kStrokeHitRequest},
+      {"butt dot", dot, wide, {5, 5}, 0},
+      {"lone anchor", straight({{5, 5}}, false), stroked(4, kAIRoundCap), {5, 5}, 0},
+      {"line without area", straight({{0, 0}, {10, 0}}, true), filled(), {5, 0}, 0},
+      {"dashes count as solid",
+       square,
+       [&] {
+         AIPathStyle dashed = wide;
+         dashed.stroke.dash = {2, 0, {1, 9}};
+         return dashed;
+       }(),
+       {0, 5},
+       kStrokeHitRequest},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    Sheet sheet;
+    const ArtId path = sheet.path(c.path, c.style);
+    const HitIndex index(sheet.document);
+    for (const std::int32_t request : {kFillHitRequest, kStrokeHitRequest, kBodyHitRequest, kAllHitRequest}) {
+      const bool hit = (c.found & request) != 0;
+      EXPECT_EQ(index.any(c.point, request), hit) << request;
+      EXPECT_EQ(index.topmost(c.point, request), hit ? path : 0) << request;
+      EXPECT_EQ(index.hits(sheet.root(), c.point, request), hit) << request;
+    }
+    EXPECT_FALSE(index.any(c.point, 0));
+  }
+}
+
+TEST(HitIndex, WhatIsDrawnIsHit) {
+  Sheet sheet;
+  const ArtId lower = sheet.path(box(0, 0, 10, 10), filled());
+  const ArtId group = sheet.group();
+  const ArtId upper = sheet.path(box(0, 0, 10, 10), filled(), group);
+  const ArtId ring = sheet.compound({box(0, 0, 10, 10), box(2, 2, 8, 8)}, filled(true));
+  const ArtId hole = sheet.document.art(ring)->firstChild;
+  const LayerId cover = sheet.document.insertLayer(0, kPlaceAboveAll);
+  const auto topmost = [&](AIRealPoint p) { return HitIndex(sheet.document).topmost(p, kAllHitRequest); };
+  const auto hits = [&](ArtId art, AIRealPoint p) {
+    return HitIndex(sheet.document).hits(art, p, kAllHitRequest);
+  };
+
+  EXPECT_EQ(topmost({1, 1}), ring);
+  EXPECT_EQ(topmost({5, 5}), upper);
+  EXPECT_TRUE(hits(ring, {1, 1}));
+  EXPECT_FALSE(hits(ring, {5, 5}));
+  EXPECT_FALSE(hits(hole, {1, 1}));
+  EXPECT_FALSE(hits(hole, {5, 5}));
+  EXPECT_TRUE(hits(sheet.document.art(hole)->below, {1, 1}));
+  EXPECT_TRUE(hits(lower, {5, 5}));
+  EXPECT_TRUE(hits(group, {5, 5}));
+  EXPECT_FALSE(hits(sheet.document.layer(cover)->root, {5, 5}));
+  EXPECT_FALSE(hits(9999, {5, 5}));
+
+  sheet.change(upper, [](Art& art) { art.locked = true; });
+  EXPECT_EQ(topmost({5, 5}), upper);
+  sheet.change(group, [](Art& art) { art.hidden = true; });
+  EXPECT_EQ(topmost({5, 5}), lower);
+  EXPECT_FALSE(hits(upper, {5, 5}));
+  sheet.change(hole, [](Art& art) { art.hidden = true; });
+  EXPECT_EQ(topmost({5, 5}), ring);
+  sheet.change(ring, [](Art& art) { art.guide = true; });
+  EXPECT_EQ(topmost({5, 5}), lower);
+  sheet.document.editLayer(sheet.layer()).editable = false;
+  EXPECT_EQ(topmost({5, 5}), lower);
+  sheet.document.editLayer(sheet.layer()).visible = false;
+  EXPECT_EQ(topmost({5, 5}), 0U);
+}
+
+TEST(HitIndex, BodiesAnswerAsBodies) {
+  Body letters;
+  letters.box = {-100, 100, 100, -100};  // of no account beside the parts
+  letters.parts.push_back({{box(0, 0, 10, 10), box(2, 2, 8, 8)}, filled(true), nullptr});
+  letters.parts.push_back({{straight({{0, 20}, {10, 20}}, false)}, stroked(2), clipTo({box(0, 0, 5, 50)})});
+  Body picture;
+  picture.box = {30, 10, 40, 0};
+  Body nothing;
+  nothing.box = {1e300, -1e300, -1e300, 1e300};
+  Sheet sheet;
+  const ArtId text = sheet.body(letters);
+  const ArtId image = sheet.body(picture);
+  sheet.body(nothing);
+  const HitIndex index(sheet.document);
+  const std::vector<std::pair<AIRealPoint, ArtId>> cases = {
+      {{1, 1}, text},   {{5, 5}, 0},  {{2, 20.5}, text}, {{7, 20.5}, 0},
+      {{35, 5}, image}, {{41, 5}, 0}, {{-50, -50}, 0}};
+  for (const auto& [point, art] : cases) {
+    EXPECT_EQ(index.topmost(point, kBodyHitRequest), art) << point.x;
+    EXPECT_EQ(index.any(point, kAllHitRequest), art != 0) << point.x;
+    EXPECT_EQ(index.topmost(point, kFillHitRequest | kStrokeHitRequest), 0U) << point.x;
+  }
+}
+
+TEST(HitIndex, ClipsCutOff) {
+  Sheet sheet;
+  const auto corner = clipTo({box(0, 0, 6, 6), box(20, 0, 26, 6)});
+  const auto ring = clipTo({box(0, 0, 30, 30), box(2, 2, 4, 4)}, corner, true);
+  const ArtId outer = sheet.group(0, ring);
+  const ArtId inner = sheet.group(outer, clipTo({box(-5, 1, 25, 50)}));
+  const ArtId path = sheet.path(box(-10, -10, 30, 30), filled(), inner);
+  const ArtId none = sheet.path(box(-10, -10, 30, 30), filled());
+  sheet.change(none, [](Art& art) { art.clip = std::make_shared<Clip>(); });
+  const HitIndex index(sheet.document);
+  const std::vector<std::pair<AIRealPoint, bool>> cases = {
+      {{5, 5}, true},  {{3, 3}, false},    {{1, 0.5}, false}, {{1, 1.5}, true}, {{7, 5}, false},
+      {{22, 3}, true}, {{25.5, 3}, false}, {{-1, 5}, false},  {{5, 6.5}, false}};
+  for (const auto& [point, hit] : cases) {
+    EXPECT_EQ(index.any(point, kAllHitRequest), hit) << point.x << " " << point.y;
+    EXPECT_EQ(index.topmost(point, kAllHitRequest), hit ? path : 0) << point.x << " " << point.y;
+    EXPECT_EQ(index.hits(outer, point, kAllHitRequest), hit) << point.x << " " << point.y;
+  }
+}
+
+// --- against the slow way ---
+
+class RandomDrawing {
+ public:
+  RandomDrawing(unsigned seed, double scale) : random_(seed), scale_(scale) {
+    for (int i = 0; i < 8; ++i) addRandom(0, {});
+    const auto clip =
+        clipTo({shape(80)}, number(0, 1) < 0.5 ? clipTo({shape(90), shape(40)}, nullptr, true) : nullptr);
+    const ArtId group = sheet.group(0, clip);
+    for (int i = 0; i < 5; ++i) addRandom(group, {clip});
+    const auto innerClip = clipTo({shape(70), shape(60)});
+    const ArtId inner = sheet.group(group, innerClip);
+    for (int i = 0; i < 3; ++i) addRandom(inner, {clip, innerClip});
+    for (int i = 0; i < 5; ++i) addRandom(0, {});
+  }
+
+  double number(double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random_);
+  }
+  // All over the page, or where the edges are.
+  AIRealPoint probe(int i) {
+    if (i % 2 == 0) return {number(-20, 120) * scale_, number(-20, 120) * scale_};
+    const AIRealPoint on = oracle.somewhereOn(static_cast<std::size_t>(i * 7919));
+    return {on.x + number(-6, 6) * scale_, on.y + number(-6, 6) * scale_};
+  }
+
+  Sheet sheet;
+  HitOracle oracle;
+
+ private:
+  PathGeometry shape(double size) {
+    const double x = number(0, 100), y = number(0, 100);
+    const auto near = [&] {
+      return AIRealPoint{(x + number(-size, size) / 2) * scale_, (y + number(-size, size) / 2) * scale_};
+    };
+    const int curves = 2 + static_cast<int>(number(0, 3));
+    const bool closed = number(0, 1) < 0.6;
+    Points points;
+    for (int i = 0; i < 3 * curves + (closed ? 0 : 1); ++i) points.push_back(near());
+    if (number(0, 1) < 0.7) return curved(points, closed);
+    points.resize(5);
+    return straight(points, closed);
+  }
+
+  AIPathStyle style() {
+    const AILineCap caps[] = {kAIButtCap, kAIRoundCap, kAIProjectingCap};
+    const AILineJoin joins[] = {kAIMiterJoin, kAIRoundJoin, kAIBevelJoin};
+    const double width = std::exp(number(-1.5, 2.5)) * scale_;
+    const AIPathStyle pen = stroked(width, caps[static_cast<int>(number(0, 3))],
+                                    joins[static_cast<int>(number(0, 3))], number(1, 6));
+    const double kind = number(0, 3);
+    return kind < 1 ? filled(number(0, 1) < 0.5) : kind < 2 ? pen : both(pen, number(0, 1) < 0.5);
+  }
+
+  void addRandom(ArtId parent, const std::vector<std::shared_ptr<const Clip>>& clips) {
+    Painted painted{0, {}, style(), 0, 0, clips};
+    const int paths = number(0, 1) < 0.6 ? 1 : 3;
+    for (int i = 0; i < paths; ++i) painted.paths.push_back(shape(50));
+    if (painted.style.fillPaint != 0) painted.fillRequest = kFillHitRequest;
+    if (painted.style.strokePaint != 0) painted.strokeRequest = kStrokeHitRequest;
+    if (number(0, 1) < 0.2) {
+      Body body;
+      body.parts.push_back({painted.paths, painted.style, nullptr});
+      painted.art = sheet.body(body, parent);
+      painted.fillRequest = painted.fillRequest != 0 ? kBodyHitRequest : 0;
+      painted.strokeRequest = painted.strokeRequest != 0 ? kBodyHitRequest : 0;
+    } else if (paths == 1) {
+      painted.art = sheet.path(painted.paths[0], painted.style, parent);
+    } else {
+      painted.art = sheet.compound(painted.paths, painted.style, parent);
+    }
+    oracle.add(painted);
+  }
+
+  std::mt19937 random_;
+  double scale_;
+};
+
+TEST(HitIndex, AgreesWithTheSlowWay) {
+  constexpr double kMargin = 0.02;
+  constexpr int kProbes = 400;
+  const std::int32_t requests[] = {kAllHitRequest, kFillHitRequest, kStrokeHitRequest, kBodyHitRequest, 3};
+  int certain = 0, hits = 0;
+  for (unsigned seed = 1; seed <= 12; ++seed) {
+    RandomDrawing drawing(seed, seed % 3 == 0 ? 5 : seed % 3 == 1 ? 1 : 0.1);
+    const HitIndex index(drawing.sheet.document);
+    for (int i = 0; i < kProbes; ++i) {
+      const AIRealPoint point = drawing.probe(i);
+      const std::int32_t request = requests[i % 5];
+      if (!drawing.oracle.isCertain(point, request, kMargin)) continue;
+      const ArtId wanted = drawing.oracle.topmost(point, request);
+      ++certain;
+      hits += wanted != 0 ? 1 : 0;
+      EXPECT_EQ(index.topmost(point, request), wanted)
+          << seed << ": " << point.x << ", " << point.y << " " << request;
+      EXPECT_EQ(index.any(point, request), wanted != 0)
+          << seed << ": " << point.x << ", " << point.y << " " << request;
+    }
+  }
+  EXPECT_GT(certain, 12 * kProbes / 2);
+  EXPECT_GT(hits, certain / 5);
+}
+
+// --- crowds, strays and stacks ---
+
+// Squares of side 2 in rows of pitch 3, so that where a point lies says what is there.
+class Squares {
+ public:
+  static constexpr int kRow = 60;
+
+  explicit Squares(double offset) : offset_(offset) {}
+  std::vector<PathGeometry> paths() const {
+    std::vector<PathGeometry> all;
+    for (int y = 0; y < kRow; ++y) {
+      for (int x = 0; x < kRow; ++x) {
+        const double left = offset_ + 3 * x, bottom = offset_ + 3 * y;
+        all.push_back(box(left, bottom, left + 2, bottom + 2));
+      }
+    }
+    return all;
+  }
+  // Calls check(point, is a square there) for points that are not near an edge.
+  template <typename Check>
+  void probe(Check check) const {
+    for (int i = 0; i < 3 * kRow * 4; ++i) {
+      for (int k = 0; k < 24; ++k) {
+        const double x = (i + 0.5) / 4, y = (k * 37 % (3 * kRow)) + 0.6;
+        check(AIRealPoint{offset_ + x, offset_ + y}, std::fmod(x, 3) < 2 && std::fmod(y, 3) < 2);
+      }
+    }
+  }
+
+ private:
+  double offset_;
+};
+
+TEST(HitIndex, ACompoundPathAnswersLikeItsPathsApart) {
+  const std::vector<PathGeometry> paths = Squares(0).paths();
+  for (const AIPathStyle& style : {filled(), filled(true), stroked(0.5), both(stroked(0.5, kAIRoundCap))}) {
+    Sheet apart, together;
+    for (const PathGeometry& path : paths) apart.path(path, style);
+    const ArtId compound = together.compound(paths, style);
+    const HitIndex one(apart.document), other(together.document);
+    Squares(0).probe([&](AIRealPoint p, bool) {
+      EXPECT_EQ(one.any(p, kAllHitRequest), other.any(p, kAllHitRequest));
+      EXPECT_EQ(one.topmost(p, kAllHitRequest) != 0, other.topmost(p, kAllHitRequest) == compound);
+    });
+  }
+}
+
+TEST(HitIndex, StraysAndGiantsLeaveTheCrowdAlone) {
+  struct Case {
+    const char* what;
+    double offset;
+    std::vector<PathGeometry> others;
+    AIPathStyle style;
+    bool coversAll;
+  };
+  const double far = 1e9;
+  const std::vector<Case> cases = {
+      {"far from the origin", far, {}, filled(), false},
+      {"strays", 0, {box(far, far, far + 1, far + 1), box(-far, 5, 1 - far, 6)}, filled(), false},
+      {"a giant's outline", 0, {box(-far, -far, far, far)}, stroked(10), false},
+      {"under a giant", 0, {box(-far, -far, far, far)}, filled(), true},
+      {"without area", 0, {straight({{0, 0}, {0, 500}}, true), straight({{1, 1}}, true)}, filled(), false},
+      {"a stack", 0, std::vector<PathGeometry>(5000, box(-1, -1, 200, 200)), filled(), true},
+      {"a stack of outlines", 0, std::vector<PathGeometry>(3000, box(-1, -1, 200, 200)), stroked(0.5), false},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    Sheet sheet;
+    for (const PathGeometry& other : c.others) sheet.path(other, c.style);
+    const ArtId crowd = sheet.group();
+    const Squares squares(c.offset);
+    for (const PathGeometry& path : squares.paths()) sheet.path(path, filled(), crowd);
+    const HitIndex index(sheet.document);
+    int wrong = 0;
+    squares.probe([&](AIRealPoint p, bool inSquare) {
+      wrong += index.any(p, kAllHitRequest) != (inSquare || c.coversAll) ? 1 : 0;
+      wrong += index.hits(crowd, p, kAllHitRequest) != inSquare ? 1 : 0;
+      wrong += (index.topmost(p, kAllHitRequest) != 0) != (inSquare || c.coversAll) ? 1 : 0;
+    });
+    EXPECT_EQ(wrong, 0);
+  }
+}
+
+TEST(HitIndex, NothingIsNowhere) {
+  Sheet sheet;
+  sheet.group();
+  sheet.path({}, both(stroked(2, kAIRoundCap)));
+  const HitIndex index(sheet.document);
+  EXPECT_FALSE(index.any({0, 0}, kAllHitRequest));
+  EXPECT_EQ(index.topmost({std::nan(""), 0}, kAllHitRequest), 0U);
+  EXPECT_FALSE(HitIndex(Document()).any({0, 0}, kAllHitRequest));
+}
+
+TEST(HitIndex, DepthIsNoDanger) {
+  Sheet sheet;
+  ArtId group = 0;
+  for (int i = 0; i < 50000; ++i) group = sheet.group(group);
+  const ArtId deep = sheet.path(box(0, 0, 10, 10), filled(), group);
+  ArtId clipped = 0;
+  for (int i = 0; i < 1000; ++i)
+    clipped = sheet.group(clipped, clipTo({box(20 + i * 0.001, 0, 40, 40 - i * 0.02)}));
+  const ArtId inside = sheet.path(box(0, 0, 100, 100), filled(), clipped);
+  const HitIndex index(sheet.document);
+  EXPECT_EQ(index.topmost({5, 5}, kAllHitRequest), deep);
+  EXPECT_EQ(index.topmost({30, 5}, kAllHitRequest), inside);
+  EXPECT_TRUE(index.any({21.1, 19.9}, kAllHitRequest));
+  EXPECT_FALSE(index.any({20.9, 19.9}, kAllHitRequest));
+  EXPECT_FALSE(index.any({30, 20.1}, kAllHitRequest));
+}
+
+}  // namespace
+}  // namespace host

@@ -1,0 +1,119 @@
+#include "SvgWriterCase.h"
+
+namespace host {
+namespace {
+
+std::vector<SvgWriterCase> artCases() {
+  const std::string group =
+      "\n <g id='g'>\n  <path id='a' d='M0 0h1'/>\n  <path id='b' d='M0 0h1'/>\n </g>\n";
+  return {
+      {"new art in every place", file(group + "<text/>"),
+       [](SvgDrawing& d) {
+         for (const AIPaintOrder order : {kPlaceAbove, kPlaceBelow}) {
+           const ArtId id = d.document->newArt(kPathArt, order, named(d, "b")).value();
+           d.document->setPath(id, corners({{0, 0}, {72, 0}}, false));
+         }
+         d.document->newArt(kGroupArt, kPlaceInsideOnBottom, named(d, "g"));
+       },
+       file("\n <g id='g'>\n  <g/>\n  <path id='a' d='M0 0h1'/>\n  <path fill=\"none\" d=\"M 0,96 L "
+            "96,96\"/>\n"
+            "  <path id='b' d='M0 0h1'/>\n  <path fill=\"none\" d=\"M 0,96 L 96,96\"/>\n </g>\n<text/>")},
+      {"a group in an empty tag", file("\n <g id='g' >\n  <g id='e' />\n </g>\n <path d='M0 0h1'/>\n"),
+       [](SvgDrawing& d) {
+         const ArtId inner = d.document->newArt(kGroupArt, kPlaceInsideOnTop, named(d, "e")).value();
+         addPath(d, inner, {{0, 0}, {72, 0}, {72, 72}}, filled(rgb(0, 0, 0)));
+       },
+       file("\n <g id='g' >\n  <g id='e'>\n    <g>\n      <path d=\"M 0,96 L 96,96 L 96,0 Z\"/>\n    </g>\n  "
+            "</g>\n </g>"
+            "\n <path d='M0 0h1'/>\n")},
+      {"art that goes, alone on its line or not",
+       file("\n <path id='a' d='M0 0h1'/>\n <path id='b' d='M0 0h1'/><path id='c' d='M0 0h1'/>\n "
+            "<text>t</text>\n"),
+       [](SvgDrawing& d) {
+         d.document->deleteArt(named(d, "a"));
+         d.document->deleteArt(named(d, "b"));
+       },
+       file("\n <path id='c' d='M0 0h1'/>\n <text>t</text>\n")},
+      {"names", file("<path id='a' inkscape:label='x' d='M0 0h1'/><text id='b' x='1'>t</text>", kInk),
+       [](SvgDrawing& d) {
+         d.document->setName(named(d, "a"), "it's");
+         d.document->setName(named(d, "b"), "a\nb");
+       },
+       file("<path id='a' inkscape:label='it&apos;s' d='M0 0h1'/><text id='b' x='1' "
+            "inkscape:label=\"a&#10;b\">t</text>",
+            kInk)},
+      {"an outline in a transformed group",
+       file("<g transform='translate(10) scale(2)'><path id='a' d='M0 0h1' inkscape:original-d='M0 0'/></g>",
+            kInk),
+       [](SvgDrawing& d) {
+         d.document->setPath(named(d, "a"), corners({{7.5, 72}, {9, 72}, {9, 70.5}}, true));
+       },
+       file("<g transform='translate(10) scale(2)'><path id='a' d='M 0,0 L 1,0 L 1,1 Z'/></g>", kInk)},
+      {"a shape that becomes a path", file("<rect id='a' width='5' height='5' fill='red'></rect>"),
+       [](SvgDrawing& d) {
+         d.document->setPath(named(d, "a"), corners({{0, 72}, {0.75, 72}}, false));
+       },
+       file("<path id='a' fill='red' d=\"M 0,0 L 1,0\"></path>")},
+      {"a compound path that loses a part", file("<path id='a' d='M0 0h9v9zM1 1h1v1z'/>"),
+       [](SvgDrawing& d) { d.document->deleteArt(d.document->art(named(d, "a"))->firstChild); },
+       file("<path id='a' d='M 0,0 L 9,0 L 9,9 Z' ch:kind=\"compound\"/>", kHost)},
+      {"a path that joins a new compound path",
+       file("<path id='a' d='M0 0h9v9z'/><text>t</text><path id='b' d='M1 1h1v1z'/>"),
+       [](SvgDrawing& d) {
+         const ArtId compound = d.document->newArt(kCompoundPathArt, kPlaceAbove, named(d, "b")).value();
+         d.document->setStyle(compound, filled(rgb(1, 0, 0)));
+         d.document->moveArt(named(d, "b"), kPlaceInsideOnTop, compound);
+         d.document->moveArt(named(d, "a"), kPlaceInsideOnTop, compound);
+       },
+       file("<text>t</text><path fill=\"#ff0000\" d=\"M 1,1 L 2,1 L 2,2 Z M 0,0 L 9,0 L 9,9 Z\"/>")},
+      {"art that changes its order",
+       file("\n <path id='a' d='M0 0h1'/>\n <path id='b' d='M0 0h1'/>\n <path id='c' d='M0 0h1'/>\n"),
+       [](SvgDrawing& d) { d.document->moveArt(named(d, "a"), kPlaceAbove, named(d, "c")); },
+       file("\n <path id='b' d='M0 0h1'/>\n <path id='c' d='M0 0h1'/>\n <path id='a' d='M0 0h1'/>\n")},
+      {"art that moves between groups of different looks",
+       file("<g fill='red' transform='scale(2)' xmlns:x='urn:x'><path id='a' x:y='1' d='M0 0h1v1z'/></g>"
+            "<g id='g' stroke='blue' transform='translate(0 -1)'><path d='M0 0h1'/></g>"),
+       [](SvgDrawing& d) { d.document->moveArt(named(d, "a"), kPlaceInsideOnBottom, named(d, "g")); },
+       file("<g fill='red' transform='scale(2)' xmlns:x='urn:x'></g>"
+            "<g id='g' stroke='blue' transform='translate(0 -1)'><path id='a' x:y='1' d='M0 0h1v1z'"
+            " transform=\"matrix(2 0 0 2 0 1)\" fill=\"red\" stroke=\"none\" xmlns:x=\"urn:x\"/>"
+            "<path d='M0 0h1'/></g>")},
+      {"art that moves out of what is deleted, changed",
+       file("\n<g id='g'>\n <g id='h'>\n  <path id='a' d='M0 0h1'/>\n  <path id='b' d='M0 0h1'/>\n "
+            "</g>\n</g>\n"
+            "<path id='c' d='M0 0h1'/>\n"),
+       [](SvgDrawing& d) {
+         d.document->moveArt(named(d, "h"), kPlaceAbove, named(d, "c"));
+         d.document->deleteArt(named(d, "b"));
+         d.document->setName(named(d, "a"), "A");
+         d.document->deleteArt(named(d, "g"));
+       },
+       file("\n<path id='c' d='M0 0h1'/>\n<g id='h'>\n  <path id='a' d='M0 0h1' inkscape:label=\"A\"/>\n "
+            "</g>\n",
+            kInk)},
+      {"art that goes into a new group", file("\n <path id='a' d='M0 0h1'/>\n <path id='b' d='M0 0h1'/>\n"),
+       [](SvgDrawing& d) {
+         const ArtId made = d.document->newArt(kGroupArt, kPlaceAbove, named(d, "b")).value();
+         d.document->moveArt(named(d, "a"), kPlaceInsideOnTop, made);
+         d.document->moveArt(named(d, "b"), kPlaceInsideOnTop, made);
+       },
+       file("\n <g>\n  <path id='a' d='M0 0h1'/>\n  <path id='b' d='M0 0h1'/>\n </g>\n")},
+      {"art out of an entity",
+       "<!DOCTYPE svg [<!ENTITY e '<path id=\"a\" d=\"M0 0h1\"/>'>]>\n" + file("\n &e;<text>&e;</text>\n"),
+       [](SvgDrawing& d) { d.document->setName(named(d, "a"), "A"); },
+       "<!DOCTYPE svg [<!ENTITY e '<path id=\"a\" d=\"M0 0h1\"/>'>]>\n" +
+           file("\n <path id=\"a\" d=\"M0 0h1\" inkscape:label=\"A\"/><text><path id=\"a\" d=\"M0 "
+                "0h1\"/></text>\n",
+                kInk)},
+      {"a prefix of the file that means something else",
+       file("<path id='a' d='M0 0h1'/>", " xmlns:inkscape='urn:x'"),
+       [](SvgDrawing& d) { d.document->setName(named(d, "a"), "A"); },
+       file("<path id='a' d='M0 0h1' inkscape1:label=\"A\"/>",
+            " xmlns:inkscape='urn:x' xmlns:inkscape1=\"http://www.inkscape.org/namespaces/inkscape\"")},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Art, SvgWriter, testing::ValuesIn(artCases()), caseName);
+
+}  // namespace
+}  // namespace host

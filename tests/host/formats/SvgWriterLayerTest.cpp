@@ -1,0 +1,100 @@
+#include "SvgWriterCase.h"
+
+namespace host {
+namespace {
+
+const std::string kOpen = R"(<svg xmlns="http://www.w3.org/2000/svg" width="96" height="96")";
+
+void mark(SvgDrawing& drawing) {
+  const LayerId layer = addLayer(drawing, "Marks");
+  const ArtId root = drawing.document->layer(layer)->root;
+  const ArtId path =
+      addPath(drawing, root, {{0, 72}, {7.5, 72}, {7.5, 64.5}}, filled(cmyk(0, 0, 0, 1), true));
+  drawing.document->setName(path, "a \"mark\"");
+}
+
+std::string marksLayer(const std::string& lineBreak, const std::string& inner, const std::string& more = "") {
+  return lineBreak + "<g" + more + R"( inkscape:groupmode="layer" inkscape:label="Marks" ch:added="layer">)" +
+         inner +
+         R"x(<path inkscape:label="a &quot;mark&quot;" ch:fill="cmyk(0 0 0 1)" ch:fill-overprint="true")x"
+         R"( d="M 0,0 L 10,0 L 10,10 Z"/>)" +
+         lineBreak + "</g>";
+}
+
+std::vector<SvgWriterCase> layerCases() {
+  return {
+      {"marks in a file of lines", file("\n\t<g id='a'/>\n\t<rect width='1' height='1'/>\n"), mark,
+       file("\n\t<g id='a'/>\n\t<rect width='1' height='1'/>" + marksLayer("\n\t", "\n\t\t", kBoth) + "\n")},
+      {"marks with CR LF", file("\r\n <path d='M0 0h1'/>\r\n"), mark,
+       file("\r\n <path d='M0 0h1'/>" + marksLayer("\r\n ", "\r\n  ", kBoth) + "\r\n")},
+      {"marks in a file of one line", file("<path d='M0 0h1'/>"), mark,
+       file("<path d='M0 0h1'/>" + marksLayer("", "", kBoth))},
+      {"marks with prefixes bound", file("<path d='M0 0h1'/>", kBoth), mark,
+       file("<path d='M0 0h1'/>" + marksLayer("", ""), kBoth)},
+      {"marks above a layer, with comments behind",
+       file("\n<g inkscape:groupmode='layer' inkscape:label='A'><path d='M0 0h1'/></g>\n<!-- end -->\n",
+            kInk),
+       mark,
+       file("\n<g inkscape:groupmode='layer' inkscape:label='A'><path d='M0 0h1'/></g>" +
+                marksLayer("\n", "\n", kHost) + "\n<!-- end -->\n",
+            kInk)},
+      {"a new layer below the loose art", file("\n <defs/>\n <path d='M0 0h1'/>\n"),
+       [](SvgDrawing& d) { addLayer(d, "", kPlaceBelowAll); },
+       file("\n <defs/>\n <g" + kBoth +
+            " inkscape:groupmode=\"layer\" ch:added=\"layer\"/>\n <path d='M0 0h1'/>\n")},
+      {"a new layer between two, hidden and locked",
+       file("\n<g id='A'><path d='M0 0h1'/></g>\n<g id='B'><path d='M0 0h1'/></g>\n", kBoth),
+       [](SvgDrawing& d) {
+         Layer& layer = d.document->editLayer(addLayer(d, "C", kPlaceBelow, d.document->state().layers[0]));
+         layer.visible = false;
+         layer.editable = false;
+       },
+       file("\n<g id='A'><path d='M0 0h1'/></g>\n"
+            "<g xmlns:sodipodi=\"http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd\" "
+            "inkscape:groupmode=\"layer\""
+            " inkscape:label=\"C\" ch:added=\"layer\" style=\"display:none\" sodipodi:insensitive=\"1\"/>"
+            "\n<g id='B'><path d='M0 0h1'/></g>\n",
+            kBoth)},
+      {"the order of layers",
+       file("\n<g id='A'><path d='M0 0h1'/></g>\n<g id='B'>\n <path d='M0 0h1'/></g>\n<g id='C'><path d='M0 "
+            "0h1'/>"
+            "</g>\n"),
+       [](SvgDrawing& d) { std::swap(d.document->editState().layers[0], d.document->editState().layers[1]); },
+       file("\n<g id='A'><path d='M0 0h1'/></g>\n<g id='C'><path d='M0 0h1'/></g>\n<g id='B'>\n <path d='M0 "
+            "0h1'/>"
+            "</g>\n")},
+      {"a layer's title and state",
+       file("<g id='A' style='display:none;opacity:.5'><path d='M0 0h1'/></g><g id=\"B\"><path d='M0 "
+            "0h1'/></g>",
+            kInk),
+       [](SvgDrawing& d) {
+         d.document->editLayer(d.document->state().layers[1]).visible = true;
+         d.document->editLayer(d.document->state().layers[0]).visible = false;
+         d.document->editLayer(d.document->state().layers[0]).title = "<B>";
+       },
+       file("<g id='A' style='opacity:.5'><path d='M0 0h1'/></g><g id=\"B\" inkscape:label=\"&lt;B>\""
+            " style=\"display:none\"><path d='M0 0h1'/></g>",
+            kInk)},
+      {"a layer that goes",
+       file("\n <g id='A'><path d='M0 0h1'/></g>\n <g id='B'>\n  <path d='M0 0h1'/>\n </g>\n"),
+       [](SvgDrawing& d) { d.document->deleteLayer(d.document->state().layers[0]); },
+       file("\n <g id='A'><path d='M0 0h1'/></g>\n")},
+      {"loose art that gets a layer", file("\n <defs/>\n <path d='M0 0h1'/>\n <text>a</text>\n", kInk),
+       [](SvgDrawing& d) { d.document->editLayer(d.document->state().layers[0]).title = "Art"; },
+       file("\n <defs/>\n <g inkscape:groupmode=\"layer\" inkscape:label=\"Art\">\n  <path d='M0 0h1'/>\n"
+            "  <text>a</text>\n </g>\n",
+            kInk)},
+      {"an empty drawing", kOpen + " />",
+       [](SvgDrawing& d) {
+         d.document->deleteLayer(d.document->state().layers[0]);
+         addLayer(d, "A");
+       },
+       kOpen + "><g" + kBoth +
+           " inkscape:groupmode=\"layer\" inkscape:label=\"A\" ch:added=\"layer\"/></svg>"},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Layers, SvgWriter, testing::ValuesIn(layerCases()), caseName);
+
+}  // namespace
+}  // namespace host

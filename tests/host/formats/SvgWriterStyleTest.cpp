@@ -1,0 +1,116 @@
+#include <gmock/gmock.h>
+
+#include "SvgWriterCase.h"
+
+namespace host {
+namespace {
+
+std::vector<SvgWriterCase> styleCases() {
+  const std::string path = " d='M0 0h1v1z'/>";
+  const auto stroke = [](SvgDrawing& d) { d.document->setStyle(named(d, "a"), stroked(rgb(1, 0, 0), 1.5)); };
+  return {
+      {"attributes", file("<path id='a' fill='blue'" + path), stroke,
+       file("<path id='a' fill='none' d='M0 0h1v1z' stroke=\"#ff0000\" stroke-width=\"2\" "
+            "stroke-linecap=\"butt\""
+            " stroke-linejoin=\"miter\" stroke-miterlimit=\"4\" stroke-dasharray=\"none\" "
+            "stroke-dashoffset=\"0\"/>")},
+      {"one property in a style attribute",
+       file("<path id='a' style='fill:none; stroke : red ;stroke-width:1; x:y' stroke='blue'" + path), stroke,
+       file("<path id='a' style='fill:none; stroke : red ;stroke-width:2; x:y' stroke='blue'" + path)},
+      {"a style sheet", file("<style>path { fill: blue; stroke-width: 2 }</style><path id='a'" + path),
+       [](SvgDrawing& d) { d.document->setStyle(named(d, "a"), filled(rgb(1, 0, 0))); },
+       file("<style>path { fill: blue; stroke-width: 2 }</style><path id='a' d='M0 0h1v1z'"
+            " style=\"fill:#ff0000\"/>")},
+      {"a paint that was invisible", file("<g fill-opacity='0'><path id='a' fill='blue'" + path + "</g>"),
+       [](SvgDrawing& d) { d.document->setStyle(named(d, "a"), filled(rgb(0, 0, 1))); },
+       file("<g fill-opacity='0'><path id='a' fill='#0000ff' d='M0 0h1v1z' fill-opacity=\"1\"/></g>")},
+      {"process colour and overprint", file("<path id='a' fill='red'" + path, kHost),
+       [](SvgDrawing& d) { d.document->setStyle(named(d, "a"), filled(cmyk(1, 0.5, 0, 0.2), true)); },
+       file("<path id='a' fill='#0066cc' d='M0 0h1v1z' ch:fill=\"cmyk(1 0.5 0 0.2)\" "
+            "ch:fill-overprint=\"true\"/>",
+            kHost)},
+      {"from process colour to plain",
+       file("<path id='a' fill='#000' ch:fill='cmyk(0 0 0 1)' ch:fill-overprint='true'" + path, kHost),
+       [](SvgDrawing& d) { d.document->setStyle(named(d, "a"), filled(rgb(0, 0, 0))); },
+       file("<path id='a' fill='#000'" + path, kHost)},
+      {"new art among inherited properties",
+       file("<g id='g' fill='red' style='stroke:blue;visibility:hidden'><path id='a'" + path + "</g><text/>"),
+       [](SvgDrawing& d) {
+         addPath(d, named(d, "g"), {{0, 72}, {0.75, 72}, {0.75, 71.25}}, filled(rgb(0, 0, 0)));
+       },
+       file("<g id='g' fill='red' style='stroke:blue;visibility:hidden'><path id='a'" + path +
+            "<path fill=\"#000000\" stroke=\"none\" visibility=\"visible\" d=\"M 0,0 L 1,0 L 1,1 "
+            "Z\"/></g><text/>")},
+      {"dashes, caps and joins in a scaled group",
+       file("<g id='g' transform='scale(4)'></g><path d='M0 0h1'/>"),
+       [](SvgDrawing& d) {
+         AIPathStyle style = *stroked(rgb(0, 0, 0), 3);
+         style.stroke.cap = kAIRoundCap;
+         style.stroke.join = kAIBevelJoin;
+         style.stroke.miterLimit = 10;
+         style.stroke.dash = {2, 1.5, {3, 6}};
+         style.evenodd = 1;
+         addPath(d, named(d, "g"), {{0, 72}, {3, 72}, {3, 69}}, std::make_shared<const AIPathStyle>(style));
+       },
+       file("<g id='g' transform='scale(4)'><path fill=\"none\" fill-rule=\"evenodd\" stroke=\"#000000\""
+            " stroke-linecap=\"round\" stroke-linejoin=\"bevel\" stroke-miterlimit=\"10\" "
+            "stroke-dasharray=\"1 2\""
+            " stroke-dashoffset=\"0.5\" d=\"M 0,0 L 1,0 L 1,1 Z\"/></g><path d='M0 0h1'/>")},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, SvgWriter, testing::ValuesIn(styleCases()), caseName);
+
+void addSpot(SvgDrawing& drawing, const std::string& name) {
+  Document& document = *drawing.document;
+  AICustomColor definition{};
+  definition.kind = kCustomFourColor;
+  definition.c.f = {0, 1, 0, 0};
+  definition.flag = kCustomSpotColor;
+  const CustomColorId color = document.addCustomColor(name, definition);
+  const SwatchGroupId group = document.addSwatchGroup(-1);
+  document.editSwatchGroup(group).name = "Cut & crease";
+  document.addSwatch(group, spot(document, color, 0), name);
+  addPath(drawing, rootOf(drawing, 0), {{0, 72}, {0.75, 72}, {0.75, 71.25}},
+          stroked(spot(document, color, 0.5), 0.75, true));
+}
+
+constexpr char kSpotPath[] =
+    R"x(<path fill="none" stroke="#ff80ff" ch:stroke="custom('It\'s' 0.5)" ch:stroke-overprint="true")x"
+    R"( d="M 0,0 L 1,0 L 1,1 Z"/>)";
+
+std::vector<SvgWriterCase> swatchCases() {
+  const std::string entries =
+      "\n   <ch:color name=\"It's\" definition=\"cmyk(0 1 0 0)\" spot=\"true\"/>"
+      "\n   <ch:group name=\"Cut &amp; crease\" kind=\"0\"/>"
+      "\n   <ch:swatch name=\"It's\" paint=\"custom('It\\'s' 0)\" group=\"1\"/>\n  </ch:swatches>";
+  const std::string old =
+      "\n  <ch:swatches>\n   <ch:swatch name=\"a\" paint=\"cmyk(0 0 0 1)\"/>\n  </ch:swatches>";
+  return {
+      {"a first spot colour", file("\n <title>t</title>\n <path d='M0 0h1'/>\n"),
+       [](SvgDrawing& d) { addSpot(d, "It's"); },
+       file("\n <title>t</title>\n <metadata>\n  <ch:swatches>" + entries +
+                "\n </metadata>\n <path d='M0 0h1'/>\n " + kSpotPath + "\n",
+            kHost)},
+      {"into metadata that is there",
+       file("\n <metadata>\n  <a/>\n </metadata>\n <path d='M0 0h1'/>\n", kHost),
+       [](SvgDrawing& d) { addSpot(d, "It's"); },
+       file("\n <metadata>\n  <a/>\n  <ch:swatches>" + entries + "\n </metadata>\n <path d='M0 0h1'/>\n " +
+                kSpotPath + "\n",
+            kHost)},
+      {"a renamed swatch", file("\n <metadata>" + old + "\n </metadata>\n <path d='M0 0h1'/>\n", kHost),
+       [](SvgDrawing& d) { d.document->editSwatch(d.document->state().swatches[0]).name = "b"; },
+       file("\n <metadata>\n  <ch:swatches>\n   <ch:swatch name=\"b\" paint=\"cmyk(0 0 0 1)\"/>\n  "
+            "</ch:swatches>"
+            "\n </metadata>\n <path d='M0 0h1'/>\n",
+            kHost)},
+      {"the last swatch", file("\n <metadata>" + old + "\n </metadata>\n <path d='M0 0h1'/>\n", kHost),
+       [](SvgDrawing& d) { d.document->editState().swatches.clear(); },
+       file("\n <metadata>\n </metadata>\n <path d='M0 0h1'/>\n", kHost)},
+  };
+}
+
+INSTANTIATE_TEST_SUITE_P(Swatches, SvgWriter, testing::ValuesIn(swatchCases()), caseName);
+
+}  // namespace
+}  // namespace host

@@ -1,0 +1,137 @@
+#include "AtomicFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A folder of its own for each test.
+class AtomicFile : public testing::Test {
+ protected:
+  AtomicFile() {
+    std::string pattern = (fs::temp_directory_path() / "atomic-file-XXXXXX").string();
+    folder_ = ::mkdtemp(pattern.data());
+  }
+  ~AtomicFile() override {
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+  }
+
+  fs::path at(const std::string& name) const { return folder_ / name; }
+  std::size_t fileCount() const {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
+  }
+  static std::string content(const fs::path& path) {
+    std::string reason;
+    const auto bytes = readFile(path, &reason);
+    return bytes ? *bytes : "error: " + reason;
+  }
+  static mode_t modeOf(const fs::path& path) {
+    struct stat status {};
+    ::stat(path.c_str(), &status);
+    return status.st_mode & 07777;
+  }
+
+  fs::path folder_;
+};
+
+TEST_F(AtomicFile, WritesAndReadsAnyBytes) {
+  const std::string large(300000, '\xFF');
+  for (const std::string& bytes : {std::string(), std::string("a\0b\r\n", 5), large}) {
+    EXPECT_EQ(replaceFile(at("f"), bytes), "");
+    EXPECT_EQ(content(at("f")), bytes);
+  }
+  EXPECT_EQ(fileCount(), 1U);
+}
+
+TEST_F(AtomicFile, GivesNewFilesTheUsualModeAndLeavesOldOnesTheirs) {
+  const mode_t before = ::umask(0027);
+  EXPECT_EQ(replaceFile(at("new"), "1"), "");
+  ::umask(before);
+  EXPECT_EQ(modeOf(at("new")), 0640U);
+  ::chmod(at("new").c_str(), 0604);
+  EXPECT_EQ(replaceFile(at("new"), "2"), "");
+  EXPECT_EQ(modeOf(at("new")), 0604U);
+}
+
+TEST_F(AtomicFile, ReplacesWhatALinkLeadsTo) {
+  fs::create_directory(at("sub"));
+  EXPECT_EQ(replaceFile(at("sub/target"), "1"), "");
+  fs::create_symlink("sub/target", at("link"));
+  fs::create_symlink("link", at("second"));
+  fs::create_symlink("sub/later", at("dangling"));
+  EXPECT_EQ(replaceFile(at("second"), "2"), "");
+  EXPECT_EQ(replaceFile(at("dangling"), "3"), "");
+  EXPECT_TRUE(fs::is_symlink(at("second")));
+  EXPECT_EQ(content(at("sub/target")), "2");
+  EXPECT_EQ(content(at("sub/later")), "3");
+}
+
+TEST_F(AtomicFile, SaysWhyAFileCannotBeReplacedAndLeavesNothing) {
+  fs::create_directory(at("folder"));
+  fs::create_symlink("b", at("a"));
+  fs::create_symlink("a", at("b"));
+  EXPECT_EQ(replaceFile(at("folder"), "1"), "it is a folder");
+  EXPECT_EQ(replaceFile(at("missing/f"), "1"), "its folder is not there");
+  EXPECT_EQ(replaceFile(at("a"), "1"), "its links lead in a circle");
+  EXPECT_EQ(replaceFile(at(std::string(300, 'n')), "1"), "its name is too long");
+  EXPECT_EQ(replaceFile("/dev/full", "1"), "the disk is full");
+  EXPECT_EQ(replaceFile("/", "1"), "it is a folder");
+  EXPECT_EQ(fileCount(), 3U);
+}
+
+TEST_F(AtomicFile, KeepsTheOldFileIfTheDiskTakesOnlyAPart) {
+  ASSERT_EQ(replaceFile(at("f"), "old"), "");
+  struct rlimit before {};
+  ::getrlimit(RLIMIT_FSIZE, &before);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  const struct rlimit small { 4096, before.rlim_max };
+  ::setrlimit(RLIMIT_FSIZE, &small);
+  const auto error = replaceFile(at("f"), std::string(100000, 'n'));
+  ::setrlimit(RLIMIT_FSIZE, &before);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(error, "the file is too large");
+  EXPECT_EQ(content(at("f")), "old");
+  EXPECT_EQ(fileCount(), 1U);
+}
+
+TEST_F(AtomicFile, RespectsPermissions) {
+  if (::geteuid() == 0) GTEST_SKIP() << "the superuser may write anywhere";
+  ASSERT_EQ(replaceFile(at("f"), "old"), "");
+  ::chmod(at("f").c_str(), 0400);
+  EXPECT_EQ(replaceFile(at("f"), "new"), "permission denied");
+  ::chmod(folder_.c_str(), 0500);
+  EXPECT_EQ(replaceFile(at("g"), "new"), "permission denied");
+  ::chmod(folder_.c_str(), 0700);
+  ::chmod(at("f").c_str(), 0000);
+  EXPECT_EQ(content(at("f")), "error: permission denied");
+}
+
+TEST_F(AtomicFile, SaysWhyAFileCannotBeRead) {
+  EXPECT_EQ(content(at("missing")), "error: there is no such file");
+  EXPECT_EQ(content(folder_), "error: it is a folder");
+  ASSERT_EQ(replaceFile(at("f"), "12345"), "");
+  std::string reason;
+  EXPECT_TRUE(readFile(at("f"), nullptr, 5));
+  EXPECT_FALSE(readFile(at("f"), &reason, 4));
+  EXPECT_EQ(reason, "the file is too large");
+  EXPECT_FALSE(readFile("/dev/zero", nullptr, 1000000));
+}
+
+TEST_F(AtomicFile, ReadsWhatHasNoSize) {
+  EXPECT_NE(content("/proc/self/status").find("Umask"), std::string::npos);
+  EXPECT_EQ(content("/dev/null"), "");
+}
+
+}  // namespace
+}  // namespace host

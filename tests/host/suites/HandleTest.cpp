@@ -1,0 +1,242 @@
+// Whatever handle comes in, a call answers with a code.
+
+#include <gtest/gtest.h>
+
+#include "AIAnnotator.h"
+#include "AIArtboard.h"
+#include "AICustomColor.h"
+#include "AIDocument.h"
+#include "AIDocumentView.h"
+#include "AIFilePath.h"
+#include "AIFolders.h"
+#include "AIHitTest.h"
+#include "AIMenu.h"
+#include "AINotifier.h"
+#include "AIPreference.h"
+#include "AISwatchGroup.h"
+#include "AISwatchList.h"
+#include "AITool.h"
+#include "AIUser.h"
+#include "HostFixture.h"
+#include "SPAccess.h"
+#include "SPBlocks.h"
+#include "SPPlugins.h"
+
+namespace {
+
+class HandleTest : public HostFixture {
+ protected:
+  template <typename... Args>
+  static void expectRefused(AIErr (*entry)(Args...), int place) {
+    EXPECT_NE(entry(Args{}...), kNoErr) << "entry " << place;
+  }
+  template <typename Object, typename... Args>
+  static void expectRefused(Object* (*entry)(Args...), int place) {
+    EXPECT_EQ(entry(Args{}...), nullptr) << "entry " << place;
+  }
+
+  // Calls every entry with zeros alone.
+  template <typename... Entries>
+  static void expectAllRefuseNull(const char* suite, Entries... entries) {
+    const testing::ScopedTrace trace(__FILE__, __LINE__, suite);
+    int place = 0;
+    (expectRefused(entries, place++), ...);
+  }
+
+  void callEverythingWithNull();
+};
+
+void HandleTest::callEverythingWithNull() {
+  const auto& basic = *host.basic();
+  expectAllRefuseNull("basic", basic.AcquireSuite, basic.ReleaseSuite, basic.AllocateBlock);
+  const auto& blocks = acquire<SPBlocksSuite>(kSPBlocksSuite, kSPBlocksSuiteVersion);
+  expectAllRefuseNull("blocks", blocks.AllocateBlock);
+  const auto& access = acquire<SPAccessSuite>(kSPAccessSuite, kSPAccessSuiteVersion);
+  expectAllRefuseNull("access", access.GetPluginAccess);
+  const auto& plugins = acquire<SPPluginsSuite>(kSPPluginsSuite, kSPPluginsSuiteVersion);
+  expectAllRefuseNull("plug-ins", plugins.SetPluginName, plugins.GetPluginFileSpecification);
+  expectAllRefuseNull("strings", strings.New, strings.Dispose, strings.GetLength, strings.GetBytes);
+  const auto& files = acquire<AIFilePathSuite>(kAIFilePathSuite, kAIFilePathSuiteVersion);
+  expectAllRefuseNull("file paths", files.New, files.Dispose, files.SetFromFileReference, files.GetFullPath);
+  const auto& folders = acquire<AIFoldersSuite>(kAIFoldersSuite, kAIFoldersSuiteVersion);
+  expectAllRefuseNull("folders", folders.FindFolder);
+  const auto& notifiers = acquire<AINotifierSuite>(kAINotifierSuite, kAINotifierSuiteVersion);
+  expectAllRefuseNull("notifiers", notifiers.AddNotifier, notifiers.SetNotifierActive);
+  const auto& annotators = acquire<AIAnnotatorSuite>(kAIAnnotatorSuite, kAIAnnotatorSuiteVersion);
+  expectAllRefuseNull("annotators", annotators.AddAnnotator, annotators.SetAnnotatorActive);
+  const auto& tools = acquire<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
+  expectAllRefuseNull("tools", tools.GetSelectedTool, tools.SetSelectedTool, tools.RestoreSelectedTool);
+  const auto& user = acquire<AIUserSuite>(kAIUserSuite, kAIUserSuiteVersion);
+  expectAllRefuseNull("user", user.MessageAlert, user.ErrorAlert, user.CreateCursorResourceMgr,
+                      user.DisposeCursorResourceMgr);
+  const auto& menus = acquire<AIMenuSuite>(kAIMenuSuite, kAIMenuSuiteVersion);
+  expectAllRefuseNull("menus", menus.AddMenuItem, menus.AddMenuGroup, menus.AddMenuGroupAsSubMenu,
+                      menus.CountMenuGroups, menus.GetNthMenuGroup, menus.GetMenuGroupName,
+                      menus.UpdateMenuItemAutomatically, menus.CheckItem);
+  const auto& keys = acquire<AIPreferenceSuite>(kAIPreferenceSuite, kAIPreferenceSuiteVersion);
+  expectAllRefuseNull("preferences", keys.PreferenceExists, keys.GetBooleanPreference,
+                      keys.PutBooleanPreference, keys.GetIntegerPreference, keys.PutIntegerPreference,
+                      keys.GetRealPreference, keys.PutRealPreference, keys.GetStringPreference,
+                      keys.PutStringPreference);
+  expectAllRefuseNull("art", art.NewArt, art.DisposeArt, art.ReorderArt, art.GetFirstArtOfLayer,
+                      art.GetArtFirstChild, art.GetArtSibling, art.GetArtParent, art.GetArtType,
+                      art.GetLayerOfArt, art.GetArtName, art.SetArtName, art.GetArtTransformBounds);
+  expectAllRefuseNull("layers", layers.CountLayers, layers.GetNthLayer, layers.GetNextLayer,
+                      layers.GetLayerByTitle, layers.InsertLayer, layers.DeleteLayer, layers.GetLayerTitle,
+                      layers.SetLayerTitle, layers.GetLayerVisible, layers.SetLayerVisible,
+                      layers.GetLayerPreview, layers.GetLayerEditable, layers.SetLayerEditable,
+                      layers.GetLayerPrinted, layers.GetLayerSelected, layers.LayerHasArt,
+                      layers.LayerHasSelectedArt, layers.GetLayerIsTemplate, layers.GetLayerDimPlacedImages);
+  expectAllRefuseNull("paths", paths.GetPathSegmentCount, paths.GetPathSegments, paths.SetPathSegments,
+                      paths.GetPathClosed, paths.SetPathClosed);
+  expectAllRefuseNull("styles", styles.GetPathStyle, styles.SetPathStyle);
+  const auto& colors = acquire<AICustomColorSuite>(kAICustomColorSuite, kAICustomColorSuiteVersion);
+  expectAllRefuseNull("colours", colors.NewCustomColor, colors.GetCustomColor, colors.GetCustomColorName);
+  const auto& swatches = acquire<AISwatchListSuite>(kAISwatchListSuite, kAISwatchListSuiteVersion);
+  expectAllRefuseNull("swatches", swatches.CountSwatches, swatches.GetNthSwatch,
+                      swatches.GetSwatchByNameAndType, swatches.GetAIColor, swatches.GetSwatchName,
+                      swatches.SetSwatchName);
+  const auto& groups = acquire<AISwatchGroupSuite>(kAISwatchGroupSuite, kAISwatchGroupSuiteVersion);
+  expectAllRefuseNull("swatch groups", groups.GetGroupByName, groups.SetGroupName, groups.AddSwatch);
+  const auto& boards = acquire<AIArtboardSuite>(kAIArtboardSuite, kAIArtboardSuiteVersion);
+  expectAllRefuseNull("artboards", boards.GetArtboardList, boards.DisposeArtboardList, boards.GetCount,
+                      boards.GetActive, boards.GetArtboardProperties, boards.DisposeArtboardProperties,
+                      boards.GetPosition, boards.GetName);
+  const auto& documents = acquire<AIDocumentSuite>(kAIDocumentSuite, kAIDocumentSuiteVersion);
+  expectAllRefuseNull("documents", documents.GetDocument, documents.GetDocumentSetup,
+                      documents.GetDocumentOrigin, documents.GetDocumentScale);
+  const auto& views = acquire<AIDocumentViewSuite>(kAIDocumentViewSuite, kAIDocumentViewSuiteVersion);
+  expectAllRefuseNull("views", views.GetNthDocumentView, views.GetDocumentViewBounds,
+                      views.GetDocumentViewZoom, views.SetDocumentViewZoom, views.SetDocumentViewCenter,
+                      views.ArtworkPointToViewPoint);
+  const auto& hits = acquire<AIHitTestSuite>(kAIHitTestSuite, kAIHitTestSuiteVersion);
+  expectAllRefuseNull("hit tests", hits.HitTest, hits.GetHitData, hits.GetHitArt);
+}
+
+TEST_F(HandleTest, NullIsRefusedByEveryEntryWithADocument) {
+  callEverythingWithNull();
+  EXPECT_EQ(document->undoCount(), 0U);
+  EXPECT_EQ(document->artSlots(), 1U);  // the layer's root group
+}
+
+TEST_F(HandleTest, NullIsRefusedByEveryEntryWithoutADocument) {
+  host.documents().close(*document);
+  callEverythingWithNull();
+}
+
+// All entries of the art, path and style suites with one art handle.
+class ArtHandleTest : public HandleTest {
+ protected:
+  void expectUnknown(AIArtHandle handle) {
+    AIArtHandle other = nullptr;
+    AILayerHandle layer = nullptr;
+    std::int16_t number = 0;
+    AIBoolean flag = 0;
+    AIRealRect bounds{};
+    AIPathSegment segment{};
+    AIPathStyle style{};
+    const AIUnicodeStringHandle name = text("name");
+    const AIErr codes[] = {art.NewArt(kPathArt, kPlaceAbove, handle, &other),
+                           art.DisposeArt(handle),
+                           art.ReorderArt(handle, kPlaceAboveAll, nullptr),
+                           art.GetArtFirstChild(handle, &other),
+                           art.GetArtSibling(handle, &other),
+                           art.GetArtParent(handle, &other),
+                           art.GetArtType(handle, &number),
+                           art.GetLayerOfArt(handle, &layer),
+                           art.GetArtName(handle, name),
+                           art.SetArtName(handle, name),
+                           art.GetArtTransformBounds(handle, nullptr, 0, &bounds),
+                           paths.GetPathSegmentCount(handle, &number),
+                           paths.GetPathSegments(handle, 0, 1, &segment),
+                           paths.SetPathSegments(handle, 0, 1, &segment),
+                           paths.GetPathClosed(handle, &flag),
+                           paths.SetPathClosed(handle, 1),
+                           styles.GetPathStyle(handle, &style),
+                           styles.SetPathStyle(handle, &style)};
+    for (std::size_t i = 0; i < std::size(codes); ++i) EXPECT_EQ(codes[i], kBadParameterErr) << i;
+    EXPECT_EQ(other, nullptr);
+  }
+};
+
+TEST_F(ArtHandleTest, OfDeletedArt) {
+  const AIArtHandle group = newArt(kGroupArt);
+  const AIArtHandle inside = newArt(kPathArt, kPlaceInsideOnTop, group);
+  ASSERT_EQ(art.DisposeArt(group), kNoErr);
+  expectUnknown(group);
+  expectUnknown(inside);
+}
+
+TEST_F(ArtHandleTest, OfADeletedLayer) {
+  const AIArtHandle path = newArt(kPathArt);
+  AIArtHandle root = nullptr;
+  ASSERT_EQ(art.GetArtParent(path, &root), kNoErr);
+  const AILayerHandle layer = topLayer();
+  AILayerHandle other = nullptr;
+  ASSERT_EQ(layers.InsertLayer(nullptr, kPlaceBelowAll, &other), kNoErr);
+  ASSERT_EQ(layers.DeleteLayer(layer), kNoErr);
+  expectUnknown(path);
+  expectUnknown(root);
+  EXPECT_EQ(layers.SetLayerVisible(layer, 0), kBadParameterErr);
+  EXPECT_EQ(layers.GetNextLayer(layer, &other), kBadParameterErr);
+}
+
+TEST_F(ArtHandleTest, OfAClosedDocument) {
+  const AIArtHandle path = newArt(kPathArt);
+  const AILayerHandle layer = topLayer();
+  host.documents().close(*document);
+  expectUnknown(path);
+  AIBoolean flag = 0;
+  EXPECT_EQ(layers.GetLayerVisible(layer, &flag), kNoDocumentErr);
+  const auto next = makeDocument();
+  host.documents().open(next, "next");
+  expectUnknown(path);
+  EXPECT_EQ(layers.GetLayerVisible(layer, &flag), kBadParameterErr);
+}
+
+TEST_F(ArtHandleTest, OfAnotherKind) {
+  expectUnknown(reinterpret_cast<AIArtHandle>(topLayer()));
+  expectUnknown(reinterpret_cast<AIArtHandle>(text("a string")));
+  expectUnknown(reinterpret_cast<AIArtHandle>(this));
+}
+
+TEST_F(ArtHandleTest, OfArtThatWasNeverMade) {
+  expectUnknown(host::makeHandle<AIArtHandle>(host::HandleKind::Art, document->serial(), 4711));
+}
+
+TEST_F(ArtHandleTest, OfAnotherOpenDocumentWorksThere) {
+  const AIArtHandle path = newArt(kPathArt);
+  const auto other = makeDocument();
+  host.documents().open(other, "other");
+  AIArtHandle beside = nullptr;
+  EXPECT_EQ(art.NewArt(kPathArt, kPlaceAbove, path, &beside), kNoErr);
+  EXPECT_EQ(other->artSlots(), 1U);
+  AIArtHandle elsewhere = nullptr;
+  ASSERT_EQ(art.NewArt(kPathArt, kPlaceAboveAll, nullptr, &elsewhere), kNoErr);
+  EXPECT_EQ(art.ReorderArt(path, kPlaceAbove, elsewhere), kBadParameterErr);
+}
+
+TEST_F(HandleTest, DisposedOfObjectsAreStale) {
+  const AIUnicodeStringHandle string = text("once");
+  ASSERT_EQ(strings.Dispose(string), kNoErr);
+  text("a new string that could have taken the place");
+  std::size_t length = 0;
+  EXPECT_EQ(strings.GetLength(string, &length), kBadParameterErr);
+  EXPECT_EQ(strings.Dispose(string), kBadParameterErr);
+  EXPECT_EQ(layers.SetLayerTitle(topLayer(), string), kBadParameterErr);
+
+  const auto& boards = acquire<AIArtboardSuite>(kAIArtboardSuite, kAIArtboardSuiteVersion);
+  AIArtboardListHandle list = nullptr;
+  AIArtboardPropertiesHandle properties = nullptr;
+  ASSERT_EQ(boards.GetArtboardList(&list), kNoErr);
+  ASSERT_EQ(boards.GetArtboardProperties(list, 0, &properties), kNoErr);
+  ASSERT_EQ(boards.DisposeArtboardList(list), kNoErr);
+  std::int32_t count = 0;
+  EXPECT_EQ(boards.GetCount(list, &count), kBadParameterErr);
+  AIRealRect position{};
+  EXPECT_EQ(boards.GetPosition(properties, &position), kNoErr);  // a copy of its own
+  EXPECT_EQ(boards.DisposeArtboardProperties(properties), kNoErr);
+  EXPECT_EQ(boards.DisposeArtboardProperties(properties), kBadParameterErr);
+}
+
+}  // namespace

@@ -1,0 +1,176 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "AIArtboard.h"
+#include "AIDocument.h"
+#include "AIDocumentView.h"
+#include "HostFixture.h"
+
+namespace {
+
+TEST(View, TurnsDocumentsIntoPixels) {
+  host::View view(2.0);  // two points a unit
+  view.setViewport(800, 600);
+  view.setCenter({100, 50});
+  view.setZoom(4);
+  const AIRealPoint middle = view.toPixels({100, 50});
+  EXPECT_DOUBLE_EQ(middle.x, 400);
+  EXPECT_DOUBLE_EQ(middle.y, 300);
+  const AIRealPoint moved = view.toPixels({101, 52});  // right and up
+  EXPECT_DOUBLE_EQ(moved.x, 408);
+  EXPECT_DOUBLE_EQ(moved.y, 284);
+  const AIRealPoint back = view.toDocument(moved);
+  EXPECT_DOUBLE_EQ(back.x, 101);
+  EXPECT_DOUBLE_EQ(back.y, 52);
+  const AIRealRect bounds = view.bounds();
+  EXPECT_DOUBLE_EQ(bounds.left, 50);
+  EXPECT_DOUBLE_EQ(bounds.top, 87.5);
+  EXPECT_DOUBLE_EQ(bounds.right, 150);
+  EXPECT_DOUBLE_EQ(bounds.bottom, 12.5);
+  const AIRealMatrix m = view.pixelsFromDocument();
+  EXPECT_DOUBLE_EQ(m.a * 101 + m.c * 52 + m.tx, 408);
+  EXPECT_DOUBLE_EQ(m.b * 101 + m.d * 52 + m.ty, 284);
+}
+
+TEST(View, ShowsEvenWhatHasNoSize) {
+  host::View view;
+  view.show({5, 5, 5, 5});
+  EXPECT_TRUE(std::isfinite(view.zoom()));
+  EXPECT_EQ(view.center().x, 5);
+  view.setViewport(0, -3);
+  EXPECT_EQ(view.width(), 1);
+  EXPECT_EQ(view.height(), 1);
+}
+
+class ViewSuiteTest : public HostFixture {
+ protected:
+  AIReal zoom() {
+    AIReal value = 0;
+    EXPECT_EQ(views.GetDocumentViewZoom(nullptr, &value), kNoErr);
+    return value;
+  }
+  AIRealRect bounds() {
+    AIRealRect rect{};
+    EXPECT_EQ(views.GetDocumentViewBounds(nullptr, &rect), kNoErr);
+    return rect;
+  }
+
+  const AIDocumentViewSuite& views =
+      acquire<AIDocumentViewSuite>(kAIDocumentViewSuite, kAIDocumentViewSuiteVersion);
+};
+
+TEST_F(ViewSuiteTest, ANewDocumentShowsItsArtboardWhole) {
+  const AIRealRect shown = bounds();
+  EXPECT_LT(shown.left, 0);
+  EXPECT_LT(shown.bottom, 0);
+  EXPECT_GT(shown.right, 400);
+  EXPECT_GT(shown.top, 300);
+  EXPECT_NEAR(shown.left + shown.right, 400, 1e-9);
+  EXPECT_LT((shown.top - shown.bottom) / 300, 1.5);  // and not much more
+}
+
+TEST_F(ViewSuiteTest, KeepsTheZoomWithinLimits) {
+  const struct {
+    AIReal asked;
+    AIReal given;
+  } cases[] = {{2, 2}, {1e6, 640}, {1e-9, 1.0 / 10000}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(views.SetDocumentViewZoom(nullptr, c.asked), kNoErr);
+    EXPECT_EQ(zoom(), c.given);
+  }
+  for (const AIReal wrong : {0.0, -1.0, std::nan(""), std::numeric_limits<AIReal>::infinity()}) {
+    EXPECT_EQ(views.SetDocumentViewZoom(nullptr, wrong), kBadParameterErr);
+  }
+}
+
+TEST_F(ViewSuiteTest, TellsTheWindowOfChanges) {
+  int changes = 0;
+  host.onViewChange = [&](const host::OpenDocument& changed) {
+    EXPECT_EQ(changed.document, document);
+    ++changes;
+  };
+  const AIRealPoint center{7, 8};
+  EXPECT_EQ(views.SetDocumentViewCenter(nullptr, &center), kNoErr);
+  EXPECT_EQ(views.SetDocumentViewZoom(nullptr, 3), kNoErr);
+  EXPECT_EQ(changes, 2);
+  const AIRealRect shown = bounds();
+  EXPECT_DOUBLE_EQ((shown.left + shown.right) / 2, 7);
+  AIRealPoint pixels{};
+  EXPECT_EQ(views.ArtworkPointToViewPoint(nullptr, &center, &pixels), kNoErr);
+  EXPECT_DOUBLE_EQ(pixels.x, host.documents().current()->view.width() / 2.0);
+}
+
+TEST_F(ViewSuiteTest, EachDocumentHasOneView) {
+  AIDocumentViewHandle view = nullptr;
+  ASSERT_EQ(views.GetNthDocumentView(0, &view), kNoErr);
+  AIDocumentViewHandle none = nullptr;
+  EXPECT_EQ(views.GetNthDocumentView(1, &none), kNoSuchItemErr);
+  const auto other = makeDocument();
+  host.documents().open(other, "other");
+  EXPECT_EQ(views.SetDocumentViewZoom(view, 5), kNoErr);
+  EXPECT_NE(zoom(), 5);
+  host.documents().setCurrent(*document);
+  EXPECT_EQ(zoom(), 5);
+  host.documents().close(*document);
+  EXPECT_EQ(host.currentDocument(), other.get());
+  EXPECT_EQ(views.SetDocumentViewZoom(view, 5), kBadParameterErr);
+  host.documents().close(*other);
+  AIReal value = 0;
+  EXPECT_EQ(views.GetDocumentViewZoom(nullptr, &value), kNoDocumentErr);
+}
+
+TEST_F(ViewSuiteTest, ThePageIsTheActiveArtboard) {
+  const auto& documents = acquire<AIDocumentSuite>(kAIDocumentSuite, kAIDocumentSuiteVersion);
+  host::Artboard second;
+  second.position = {500, 210, 600, 10};
+  document->editState().artboards.push_back(second);
+  AIDocumentSetup setup{};
+  AIRealPoint origin{};
+  EXPECT_EQ(documents.GetDocumentSetup(&setup), kNoErr);
+  EXPECT_EQ(documents.GetDocumentOrigin(&origin), kNoErr);
+  EXPECT_EQ(setup.width, 400);
+  EXPECT_EQ(setup.height, 300);
+  EXPECT_EQ(origin.x, 0);
+  document->editState().activeArtboard = 1;
+  EXPECT_EQ(documents.GetDocumentSetup(&setup), kNoErr);
+  EXPECT_EQ(documents.GetDocumentOrigin(&origin), kNoErr);
+  EXPECT_EQ(setup.width, 100);
+  EXPECT_EQ(setup.height, 200);
+  EXPECT_EQ(0 - origin.x, 500);  // page 0 minus the origin is the artboard's left
+  EXPECT_EQ(0 - origin.y, 10);
+}
+
+TEST_F(ViewSuiteTest, TheDocumentSuiteKnowsWhenThereIsNone) {
+  const auto& documents = acquire<AIDocumentSuite>(kAIDocumentSuite, kAIDocumentSuiteVersion);
+  AIDocumentHandle handle = nullptr;
+  EXPECT_EQ(documents.GetDocument(&handle), kNoErr);
+  EXPECT_EQ(host.documents().find(handle)->document, document);
+  host.documents().close(*document);
+  EXPECT_EQ(documents.GetDocument(&handle), kNoDocumentErr);
+  EXPECT_EQ(handle, nullptr);
+  AIReal scale = 0;
+  EXPECT_EQ(documents.GetDocumentScale(&scale), kNoDocumentErr);
+}
+
+TEST_F(ViewSuiteTest, ArtboardListsAreCopies) {
+  const auto& boards = acquire<AIArtboardSuite>(kAIArtboardSuite, kAIArtboardSuiteVersion);
+  AIArtboardListHandle list = nullptr;
+  ASSERT_EQ(boards.GetArtboardList(&list), kNoErr);
+  document->editState().artboards.clear();
+  std::int32_t count = 0;
+  EXPECT_EQ(boards.GetCount(list, &count), kNoErr);
+  EXPECT_EQ(count, 1);
+  AIArtboardPropertiesHandle properties = nullptr;
+  EXPECT_EQ(boards.GetArtboardProperties(list, 1, &properties), kNoSuchItemErr);
+  EXPECT_EQ(boards.GetArtboardProperties(list, -1, &properties), kNoSuchItemErr);
+  ASSERT_EQ(boards.GetArtboardProperties(list, 0, &properties), kNoErr);
+  const AIUnicodeStringHandle name = text();
+  EXPECT_EQ(boards.GetName(properties, name), kNoErr);
+  EXPECT_EQ(read(name), "Front");
+  AIRealRect position{};
+  EXPECT_EQ(boards.GetPosition(properties, &position), kNoErr);
+  EXPECT_EQ(position.top, 300);
+}
+
+}  // namespace

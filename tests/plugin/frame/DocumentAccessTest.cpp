@@ -1,0 +1,155 @@
+// Art, layers, artboards and the document, as the wrappers show them.
+#include <gmock/gmock.h>
+
+#include "Annotator.h"
+#include "ArtboardRef.h"
+#include "CurrentDocument.h"
+#include "Exceptions.h"
+#include "FramePlugin.h"
+#include "HMX_AIArt.h"
+#include "HMX_AILayer.h"
+#include "LayerEnumerator.h"
+
+namespace {
+
+using testing::ElementsAre;
+using Vandrell::AIPluginWrappers::Exceptions::ParameterError;
+
+class DocumentAccess : public FrameTest {
+ protected:
+  std::vector<std::string> Walk(LayerEnumerator layers) {
+    std::vector<std::string> titles;
+    for (AILayerHandle handle = nullptr; layers.Next(&handle);) {
+      char title[32] = "";
+      EXPECT_EQ(HMX_AILayer(handle).GetTitle(title, sizeof title), kNoErr);
+      titles.emplace_back(title);
+    }
+    return titles;
+  }
+};
+
+TEST_F(DocumentAccess, ALayerWithoutHandleGivesDefaultsAndAsksNobody) {
+  const std::uint64_t calls = host.refusal().callCount();
+  const struct {
+    bool (HMX_AILayer::*ask)();
+    bool answer;
+  } table[] = {{&HMX_AILayer::IsVisible, true},        {&HMX_AILayer::IsPreview, true},
+               {&HMX_AILayer::IsEditable, true},       {&HMX_AILayer::IsPrinted, true},
+               {&HMX_AILayer::IsSelected, false},      {&HMX_AILayer::HasArt, false},
+               {&HMX_AILayer::HasSelectedArt, false},  {&HMX_AILayer::IsTemplate, false},
+               {&HMX_AILayer::DimsPlacedImages, false}};
+  for (const auto& row : table) {
+    HMX_AILayer layer(nullptr);
+    EXPECT_EQ((layer.*row.ask)(), row.answer) << &row - table;
+    EXPECT_EQ(layer.lastError, 1);
+  }
+  HMX_AILayer layer(nullptr);
+  char title[8] = "";
+  EXPECT_EQ(layer.GetTitle(title, sizeof title), 1);
+  EXPECT_EQ(layer.GetFirstArt(), nullptr);
+  EXPECT_EQ(host.refusal().callCount(), calls);
+}
+
+TEST_F(DocumentAccess, ARefusedQuestionGivesItsDefaultAndKeepsTheCode) {
+  OpenDocument({"Layer"});
+  LayerEnumerator layers;
+  AILayerHandle handle = nullptr;
+  ASSERT_TRUE(layers.Next(&handle));
+  ASSERT_EQ(host.refusal().add("AI Layer Suite:GetLayerVisible"), "");
+  HMX_AILayer layer(handle);
+  EXPECT_TRUE(layer.IsVisible());
+  EXPECT_EQ(layer.lastError, kSPCanceledByHostError);
+  EXPECT_FALSE(layer.HasArt());
+  EXPECT_EQ(layer.lastError, kNoErr);
+}
+
+TEST_F(DocumentAccess, TitlesAreCutBeforeAWholeCharacter) {
+  OpenDocument({"Schn\xC3\xA4tt"});
+  LayerEnumerator layers;
+  AILayerHandle layer = nullptr;
+  ASSERT_TRUE(layers.Next(&layer));
+  char title[6] = "";
+  EXPECT_EQ(HMX_AILayer(layer).GetTitle(title, sizeof title), kNoErr);
+  EXPECT_STREQ(title, "Schn");
+}
+
+TEST_F(DocumentAccess, ArtWithoutHandleKeepsItsLastError) {
+  HMX_AIArt art(nullptr);
+  AIRealRect bounds{1, 2, 3, 4};
+  EXPECT_EQ(art.GetTransformBounds(nullptr, 80, &bounds), kNoErr);
+  EXPECT_EQ(bounds.top, 2);
+  art.lastError = 5;
+  EXPECT_EQ(art.GetTransformBounds(nullptr, 80, &bounds), 5);
+}
+
+TEST_F(DocumentAccess, LayersAreWalkedFromTheTopByTheirProperties) {
+  host::Document& document = OpenDocument({"Top", "Middle", "Bottom"});
+  const auto& order = document.state().layers;
+  document.editLayer(order[0]).visible = false;
+  document.editLayer(order[2]).editable = false;
+
+  EXPECT_THAT(Walk({}), ElementsAre("Top", "Middle", "Bottom"));
+  EXPECT_THAT(Walk({nullptr, kLayerVisible}), ElementsAre("Middle", "Bottom"));
+  EXPECT_THAT(Walk({nullptr, kLayerVisible, kLayerEditable}), ElementsAre("Bottom"));
+  EXPECT_THAT(Walk({nullptr, 0, kLayerVisible}), ElementsAre("Top"));
+  EXPECT_THAT(Walk({nullptr, 0x10}), ElementsAre()) << "a bit that means nothing is never set";
+  int offered = 0;
+  const auto second = [](AILayerHandle, void* data) { return ++*static_cast<int*>(data) == 2; };
+  EXPECT_THAT(Walk({nullptr, kLayerVisible, 0, second, &offered}), ElementsAre("Bottom"));
+  EXPECT_EQ(offered, 2) << "only layers that passed the masks are offered";
+}
+
+TEST_F(DocumentAccess, AWalkEndsWhereTheHostRefuses) {
+  OpenDocument({"Top", "Middle", "Bottom"});
+  ASSERT_EQ(host.refusal().add("AI Layer Suite:GetNextLayer:2"), "");
+  EXPECT_THAT(Walk({}), ElementsAre("Top", "Middle"));
+}
+
+TEST_F(DocumentAccess, ArtboardsEndWithAParameterError) {
+  ArtboardRef artboard;
+  EXPECT_THROW(artboard.SetIndex(0), ParameterError) << "without a document there is none";
+  OpenDocument({"Layer"}, {{0, 300, 400, 0}, {500, 300, 900, 0}});
+  std::vector<AIReal> lefts;
+  try {
+    for (std::uint32_t index = 0;; ++index) {
+      AIRealRect rect{};
+      artboard.SetIndex(index);
+      artboard.GetRect(&rect);
+      lefts.push_back(rect.left);
+    }
+  } catch (const ParameterError& error) {
+    EXPECT_EQ(error.GetMessage(), "Parameter Error");
+  }
+  EXPECT_THAT(lefts, ElementsAre(0, 500));
+  AIRealRect rect{};
+  EXPECT_THROW(artboard.GetRect(&rect), ParameterError) << "the index was stored all the same";
+  artboard.SetIndex(0);
+  ASSERT_EQ(host.refusal().add("AI Artboard Suite:GetPosition"), "");
+  EXPECT_THROW(artboard.GetRect(&rect), ParameterError);
+}
+
+TEST_F(DocumentAccess, TheCurrentDocumentAndItsScale) {
+  EXPECT_FALSE(HasDocument());
+  EXPECT_EQ(GetDocumentScale(), 1.0);
+  host::Document& document = OpenDocument({"Layer"});
+  document.setScale(10);
+  EXPECT_TRUE(HasDocument());
+  EXPECT_EQ(GetDocumentScale(), 10.0);
+  ASSERT_EQ(host.refusal().add("AI Document Suite"), "");
+  ASSERT_EQ(host.refusal().add("AI Document Suite:GetDocumentScale"), "");
+  EXPECT_EQ(GetDocumentScale(), 1.0);
+}
+
+TEST_F(DocumentAccess, CornersBecomeWholePixelsOfTheView) {
+  OpenDocument({"Layer"});
+  host::View& view = host.documents().current()->view;
+  view.setViewport(400, 300);
+  view.setCenter({200, 150});
+  view.setZoom(2);
+  const AIRealPoint corners[2] = {{200, 150}, {230.2, 100}};
+  int rect[4] = {};
+  EXPECT_EQ(Vandrell::AIPluginWrappers::Annotator::ArtRectToViewRect(corners, rect), kNoErr);
+  EXPECT_THAT(rect, ElementsAre(200, 150, 260, 250));
+}
+
+}  // namespace

@@ -1,0 +1,65 @@
+// Items and submenus in the menus of the host.
+#include <gmock/gmock.h>
+
+#include "EnsureSubmenu.h"
+#include "FramePlugin.h"
+#include "HMX_AIMenu.h"
+
+namespace {
+
+class Menus : public FrameTest {
+ protected:
+  ~Menus() override { plugin.reset(); }
+
+  const host::MenuItem& Last() { return host.menus().items()[host.menus().items().size() - 1]; }
+};
+
+TEST_F(Menus, KeyAndTextComeFromTheTitle) {
+  const struct {
+    const char* title;
+    const char* key;
+  } table[] = {{"Open", "Open"}, {"On/Off/Auto", "On-Off-Auto"}, {"-", "-"}, {"-Extra/", "-Extra-"}};
+  for (const auto& row : table) {
+    const HMX_AIMenu menu(plugin.get(), "Help Menu", row.title, kMenuItemWantsUpdateOption);
+    ASSERT_NE(menu.item, nullptr) << row.title;
+    EXPECT_EQ(menu.item, Last().handle);
+    EXPECT_EQ(Last().key, row.key);
+    EXPECT_EQ(Last().text, row.title);
+    EXPECT_TRUE(Last().wantsUpdate);
+  }
+}
+
+TEST_F(Menus, ARefusedItemHasNoHandle) {
+  EXPECT_EQ(HMX_AIMenu(plugin.get(), "No Such Group", "title", 0).item, nullptr);
+}
+
+TEST_F(Menus, SubmenusAreSharedByExactName) {
+  AIMenuItemHandle item = nullptr;
+  EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared", nullptr, 0, item), kNoErr);
+  ASSERT_NE(item, nullptr);
+  EXPECT_EQ(host.menus().groups().find(Last().group)->name, "Tool Palettes");
+  EXPECT_EQ(host.menus().groupByName("Shared")->opener, item);
+
+  const std::size_t items = host.menus().items().size();
+  EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared", "Help Menu", 0, item), kNoErr);
+  EXPECT_EQ(item, nullptr);
+  EXPECT_EQ(host.menus().items().size(), items);
+
+  EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared ", "Shared", 0, item), kNoErr);
+  EXPECT_EQ(host.menus().groups().find(Last().group)->name, "Shared") << "a blank makes another name";
+}
+
+TEST_F(Menus, RefusalsWhileLookingCountAsNotFound) {
+  AIMenuItemHandle item = nullptr;
+  ASSERT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared", nullptr, 0, item), kNoErr);
+  for (const char* entry : {"CountMenuGroups", "GetNthMenuGroup", "GetMenuGroupName"}) {
+    ASSERT_EQ(host.refusal().add(std::string("AI Menu Suite:") + entry), "");
+    EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared", nullptr, 0, item), kNoErr);
+    EXPECT_NE(item, nullptr) << entry;
+    host.refusal().clear();
+  }
+  ASSERT_EQ(host.refusal().add("AI Menu Suite:AddMenuGroupAsSubMenu"), "");
+  EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Other", nullptr, 0, item), kSPCanceledByHostError);
+}
+
+}  // namespace

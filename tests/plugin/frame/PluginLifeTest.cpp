@@ -1,0 +1,150 @@
+// From the startup message to the end of the application.
+#include <gmock/gmock.h>
+
+#include "AINotifier.h"
+#include "Annotator.h"
+#include "FramePlugin.h"
+#include "IAIFilePath.h"
+#include "QtManager.h"
+#include "RVADM_NonModalDialog.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PluginLife : public FrameTest {
+ protected:
+  AIErr Fire(std::size_t notifier) {
+    return Send(kAINotifierCaller, "", &AINotifierMessage::notifier, host.notifiers()[notifier].handle);
+  }
+
+  std::vector<std::string> events;
+};
+
+TEST(PluginConstruction, RegistersNameAndNotifiersAndHoldsNothing) {
+  host::Host host;
+  host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
+  const HMX_AIPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
+  EXPECT_EQ(plugin.GetStartupError(), kNoErr);
+  EXPECT_EQ(record.name, "corvane");
+  std::vector<std::string> types;
+  for (const host::NotifierRecord& notifier : host.notifiers()) types.push_back(notifier.type);
+  EXPECT_THAT(types, ElementsAre(kAIApplicationStartedNotifier, kAIApplicationShutdownNotifier,
+                                 kAISaveUserDataNotifier));
+  EXPECT_EQ(host.holds(), 0);
+  EXPECT_EQ(sSPBasic, nullptr);
+}
+
+TEST(PluginConstruction, WithoutAccessEndsAtOnceWithACode) {
+  for (const char* rule : {"SP Access Suite", "SP Access Suite:GetPluginAccess"}) {
+    host::Host host;
+    ASSERT_EQ(host.refusal().add(rule), "");
+    host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
+    const FramePlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
+    EXPECT_NE(plugin.GetStartupError(), kNoErr) << rule;
+    EXPECT_EQ(host.notifiers().size(), 0U);
+    EXPECT_EQ(host.holds(), 0);
+  }
+}
+
+TEST(PluginConstruction, StandsWithoutTheSuitesOfTheFrame) {
+  host::Host host;
+  ASSERT_EQ(host.refusal().add("AI Notifier Suite"), "");
+  host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
+  const HMX_AIPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
+  EXPECT_EQ(plugin.GetStartupError(), kNoErr) << "whoever needs the suites will say so";
+  EXPECT_EQ(record.name, "test");
+}
+
+struct RecordingDialog : qRVADM::RVADM_NonModalDialog {
+  RecordingDialog(std::string text, std::vector<std::string>& list) : name(std::move(text)), events(list) {}
+  ~RecordingDialog() override { events.push_back(name + " destroyed"); }
+  void OnCommit(int result) override {
+    events.push_back(name + " commits " + std::to_string(result) +
+                     ", dialogs counted: " + std::to_string(RVADMQtManager::QtManager::DialogCount()));
+  }
+  std::string name;
+  std::vector<std::string>& events;
+};
+
+TEST_F(PluginLife, DialogsStoreAndGoAtTheEndOfTheApplication) {
+  for (const char* name : {"A", "B"}) plugin->AddDialog(new RecordingDialog(name, events));
+  EXPECT_EQ(Fire(2), kNoErr);
+  EXPECT_THAT(events, ElementsAre("A commits 0, dialogs counted: 0", "B commits 0, dialogs counted: 0"));
+  events.clear();
+  EXPECT_EQ(Fire(1), kNoErr);
+  EXPECT_THAT(events, ElementsAre("A commits 0, dialogs counted: 1", "A destroyed",
+                                  "B commits 0, dialogs counted: 1", "B destroyed"));
+  EXPECT_EQ(RVADMQtManager::QtManager::DialogCount(), 0);
+  events.clear();
+  Fire(2);
+  Fire(1);
+  EXPECT_THAT(events, IsEmpty());
+}
+
+TEST_F(PluginLife, EmergencyExitStoresNothing) {
+  plugin->AddDialog(new RecordingDialog("A", events));
+  host.endingWithoutSaving = true;
+  Fire(1);
+  EXPECT_THAT(events, ElementsAre("A destroyed"));
+}
+
+TEST_F(PluginLife, AnnotatorsSleepFromTheEndOfTheApplicationOn) {
+  Vandrell::AIPluginWrappers::Annotator annotator(plugin.get());
+  const host::AnnotatorRecord& registered = host.annotators()[0];
+  EXPECT_EQ(registered.name, "Some Annotator");
+  EXPECT_TRUE(registered.active);
+  Fire(1);
+  EXPECT_FALSE(registered.active);
+  EXPECT_EQ(annotator.GetHandle(), nullptr);
+  const std::uint64_t calls = host.refusal().callCount();
+  annotator.Deactivate();
+  EXPECT_EQ(host.refusal().callCount(), calls) << "it is switched off once";
+}
+
+struct StartupLog {
+  HMX_AIPlugin* plugin;
+  std::vector<std::string>* events;
+};
+
+void Second(void* argument) {
+  static_cast<StartupLog*>(argument)->events->push_back("second");
+}
+
+void First(void* argument) {
+  auto* log = static_cast<StartupLog*>(argument);
+  log->events->push_back("first");
+  log->plugin->AddStartupAction(&Second, argument);
+}
+
+TEST_F(PluginLife, StartupActionsRunOnceWithThoseAddedMeanwhile) {
+  StartupLog log{plugin.get(), &events};
+  plugin->AddStartupAction(&First, &log);
+  plugin->AddStartupAction(&Second, &log);
+  ASSERT_EQ(host.notifiers().size(), 4U) << "one notifier serves them all";
+  EXPECT_EQ(host.notifiers()[3].type, kAIOwlAppInitDispatchedNotifier);
+  EXPECT_EQ(Fire(3), kNoErr);
+  EXPECT_THAT(events, ElementsAre("first", "second", "second"));
+  EXPECT_FALSE(host.notifiers()[3].active);
+  EXPECT_EQ(Fire(3), kNoErr);
+  EXPECT_EQ(events.size(), 3U) << "the notifier is gone";
+  plugin->AddStartupAction(&Second, &log);
+  EXPECT_EQ(host.notifiers().size(), 5U) << "a later action needs a new one";
+}
+
+TEST(PluginFolders, AreTheHostsAsPathAndAsText) {
+  host::Host host({}, {"", "/opt/app/plug-ins", "/home/user/plug-ins"});
+  host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
+  FramePlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
+  char path[32] = "untouched";
+  EXPECT_EQ(plugin.GetPluginsFolderPath(path, sizeof path), kNoErr);
+  EXPECT_STREQ(path, "/opt/app/plug-ins");
+  EXPECT_EQ(plugin.GetFolder24Path(path, 8), ErrorCode("SMAL"));
+  EXPECT_STREQ(path, "/opt/app/plug-ins");
+  ai::FilePath folder;
+  EXPECT_EQ(plugin.GetFolder24(folder), kNoErr);
+  EXPECT_EQ(folder.GetFullPath().as_UTF8(), "/home/user/plug-ins");
+}
+
+}  // namespace

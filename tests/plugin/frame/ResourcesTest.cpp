@@ -1,0 +1,102 @@
+// Text for the user and the place of the plug-in's files.
+#include <gmock/gmock.h>
+
+#include "Alerts.h"
+#include "CopyUTF8.h"
+#include "FilePathText.h"
+#include "FramePlugin.h"
+#include "ResourceLocation.h"
+#include "UserInteraction.h"
+
+namespace {
+
+TEST(CopyUTF8, CutsBeforeWhatIsNoWholeCharacter) {
+  const struct {
+    const char* source;
+    std::size_t size;
+    const char* copied;
+  } table[] = {
+      {"abc", 8, "abc"},
+      {"abc", 4, "abc"},
+      {"abc", 3, "ab"},
+      {"abc", 1, ""},
+      {"a\xC3\xA9", 4, "a\xC3\xA9"},
+      {"a\xC3\xA9", 3, "a"},
+      {"\xE2\x82\xAC!", 4, "\xE2\x82\xAC"},
+      {"\xE2\x82\xAC!", 3, ""},
+      {"\xF0\x9F\x98\x80", 8, "\xF0\x9F\x98\x80"},
+      {"\xF0\x9F\x98\x80", 4, ""},
+      {"a\xA9z", 8, "a"},
+      {"a\xC3z", 8, "a"},
+      {"a\xF8\x80\x80\x80z", 8, "a"},
+  };
+  for (const auto& row : table) {
+    char target[8] = {};
+    EXPECT_EQ(CopyUTF8(target, row.source, row.size), target);
+    EXPECT_STREQ(target, row.copied) << row.source << " into " << row.size;
+  }
+  char target = 'x';
+  CopyUTF8(&target, "abc", 0);
+  EXPECT_EQ(target, 'x');
+}
+
+class Resources : public FrameTest {
+ protected:
+  static constexpr std::size_t kLongestBundlePath = 255;
+};
+
+TEST_F(Resources, AlertsShowSentencesAndFilledFormats) {
+  ErrorAlert("Not a format.");
+  MessageAlert("%d of %s", 3, "them");
+  MessageAlert("%s", std::string(600, 'x').c_str());
+  ASSERT_EQ(host.alerts().size(), 3U);
+  EXPECT_EQ(host.alerts()[0].kind, host::AlertKind::Error);
+  EXPECT_EQ(host.alerts()[0].text, "Not a format.");
+  EXPECT_EQ(host.alerts()[1].kind, host::AlertKind::Message);
+  EXPECT_EQ(host.alerts()[1].text, "3 of them");
+  EXPECT_EQ(host.alerts()[2].text, std::string(511, 'x'));
+}
+
+TEST_F(Resources, NothingIsShownToWhomMustNotBeAsked) {
+  host.interactionAllowed = false;
+  EXPECT_FALSE(IsUserInteractionAllowed());
+  ErrorAlert("Not a format.");
+  EXPECT_TRUE(host.alerts().empty());
+  host.interactionAllowed = true;
+  EXPECT_TRUE(IsUserInteractionAllowed());
+}
+
+TEST_F(Resources, AnAlertWithoutTextIsDropped) {
+  ASSERT_EQ(host.refusal().add("AI Unicode String Suite:New"), "");
+  ErrorAlert("Not a format.");
+  EXPECT_TRUE(host.alerts().empty());
+}
+
+TEST_F(Resources, LieInTheBundle) {
+  char path[kResourcePathSize] = "";
+  EXPECT_EQ(LocateResources(plugin->GetPluginRef(), path), kNoErr);
+  EXPECT_STREQ(path, "/opt/plug-ins/test.bundle/Contents/Resources");
+}
+
+TEST_F(Resources, ABundlePathMustFit) {
+  for (const std::size_t length : {kLongestBundlePath, kLongestBundlePath + 1}) {
+    const std::string bundle = "/" + std::string(length - 1, 'b');
+    char path[kResourcePathSize] = "untouched";
+    const AIErr error = LocateResources(host.addPlugin("long", bundle).handle, path);
+    EXPECT_EQ(error, length == kLongestBundlePath ? kNoErr : ErrorCode("SMAL"));
+    EXPECT_EQ(path, error == kNoErr ? bundle + "/Contents/Resources" : "untouched");
+  }
+}
+
+TEST_F(Resources, RefusalsComeBackAsCodes) {
+  for (const char* entry : {"SP Plug-ins Suite:GetPluginFileSpecification", "AI File Path Suite:New",
+                            "AI File Path Suite:SetFromFileReference", "AI File Path Suite:GetFullPath",
+                            "AI Unicode String Suite:GetBytes"}) {
+    ASSERT_EQ(host.refusal().add(entry), "");
+    char path[kResourcePathSize] = "";
+    EXPECT_EQ(LocateResources(plugin->GetPluginRef(), path), kSPCanceledByHostError) << entry;
+    host.refusal().clear();
+  }
+}
+
+}  // namespace

@@ -1,0 +1,126 @@
+// Which suites are acquired when, in which order, and what a refusal leaves.
+#include "HMX_AISuiteManager.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "AILayer.h"
+#include "AIMenu.h"
+#include "AIUnicodeString.h"
+#include "FakeBasicSuite.h"
+#include "SuiteTable.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+void ClearSuiteTable() {
+  const HMX_AISuiteManager made;
+}
+
+class SuiteManager : public testing::Test {
+ protected:
+  SuiteManager() {
+    FakeBasicSuite::Clear();
+    manager.SetBasicSuite(FakeBasicSuite::Table());
+  }
+  ~SuiteManager() override { ClearSuiteTable(); }  // for whoever comes next
+
+  HMX_AISuiteManager manager;
+};
+
+TEST(SuiteTable, EveryRowHasAPointerOfItsOwn) {
+  static const char addresses[kSuiteCount] = {};
+  for (std::size_t i = 0; i < kSuiteCount; ++i) sSuiteTable[i].pointer.set(&addresses[i]);
+  for (std::size_t i = 0; i < kSuiteCount; ++i) {
+    EXPECT_EQ(sSuiteTable[i].pointer.get(), &addresses[i]) << sSuiteTable[i].name;
+  }
+  EXPECT_EQ(static_cast<const void*>(sSPBasic), &addresses[188]);
+  ClearSuiteTable();
+  for (const SuiteRow& row : sSuiteTable) EXPECT_EQ(row.pointer.get(), nullptr) << row.name;
+}
+
+TEST_F(SuiteManager, RequestedSuitesComeInTheOrderOfTheTable) {
+  for (const char* name : {"SP Blocks Suite", "AI Menu Suite", "ATE Font Suite", "AI Layer Suite"}) {
+    EXPECT_EQ(manager.Request(name), 0);
+  }
+  EXPECT_THAT(FakeBasicSuite::log, IsEmpty()) << "marks cost no call";
+  EXPECT_EQ(manager.Acquire(), 0);
+  EXPECT_THAT(FakeBasicSuite::TakeLog(), ElementsAre("+ AI Layer Suite 1013", "+ AI Menu Suite 1011",
+                                                     "+ ATE Font Suite 1", "+ SP Blocks Suite 2"));
+  EXPECT_NE(sAILayer, nullptr);
+  EXPECT_EQ(manager.Release(), 0);
+  EXPECT_THAT(FakeBasicSuite::log, ElementsAre("- AI Layer Suite 1013", "- AI Menu Suite 1011",
+                                               "- ATE Font Suite 1", "- SP Blocks Suite 2"));
+  EXPECT_EQ(sAILayer, nullptr);
+}
+
+TEST_F(SuiteManager, InnerLevelsCallNobody) {
+  manager.Request("AI Layer Suite");
+  manager.Acquire();
+  FakeBasicSuite::log.clear();
+  for (int level = 0; level < 3; ++level) EXPECT_EQ(manager.Acquire(), 0);
+  for (int level = 0; level < 3; ++level) EXPECT_EQ(manager.Release(), 0);
+  EXPECT_THAT(FakeBasicSuite::log, IsEmpty());
+  EXPECT_NE(sAILayer, nullptr);
+  EXPECT_EQ(manager.nesting, 1);
+}
+
+TEST_F(SuiteManager, RefusalStopsTheAcquisition) {
+  for (const char* name : {"AI Artboard Suite", "AI Art Suite", "AI Layer Suite", "AI Menu Suite"}) {
+    manager.Request(name);
+  }
+  FakeBasicSuite::refused = {"AI Layer Suite"};
+  EXPECT_EQ(manager.Acquire(), kSPSuiteNotFoundError);
+  EXPECT_EQ(manager.nesting, 1);
+  EXPECT_NE(sAIArt, nullptr);
+  EXPECT_EQ(sAILayer, nullptr);
+  EXPECT_EQ(sAIMenu, nullptr);
+
+  FakeBasicSuite::log.clear();
+  EXPECT_EQ(manager.Release(), 0);
+  EXPECT_THAT(FakeBasicSuite::log, ElementsAre("- AI Artboard Suite 1004", "- AI Art Suite 1021"))
+      << "only what is held goes back";
+}
+
+TEST_F(SuiteManager, LastReleaseClearsAllPointersButKeepsItsWayToTheHost) {
+  manager.Request("AI Layer Suite");
+  manager.Acquire();
+  sSuiteTable[216].pointer.set(this);  // nobody asked for that one
+  FakeBasicSuite::releaseResult = kSPBadParameterError;
+  EXPECT_EQ(manager.Release(), kSPBadParameterError);
+  for (const SuiteRow& row : sSuiteTable) EXPECT_EQ(row.pointer.get(), nullptr) << row.name;
+  EXPECT_EQ(sSPBasic, nullptr);
+
+  FakeBasicSuite::log.clear();
+  EXPECT_EQ(manager.Acquire(), 0);
+  EXPECT_THAT(FakeBasicSuite::log, ElementsAre("+ AI Layer Suite 1013")) << "the mark is still there";
+}
+
+TEST_F(SuiteManager, RequestsByNameAndVersion) {
+  EXPECT_EQ(manager.Request("AI Nonsense Suite"), 1);
+  EXPECT_EQ(manager.Request("AI Annotator Drawer Suite", 1006), 1);
+  EXPECT_EQ(manager.Request("AI Annotator Drawer Suite", 1007), 0);
+  manager.Acquire();
+  EXPECT_THAT(FakeBasicSuite::log, ElementsAre("+ AI Annotator Drawer Suite 1007"));
+}
+
+TEST_F(SuiteManager, RequestWithinALevelAcquiresAtOnceAndOnlyOnce) {
+  manager.Acquire();
+  EXPECT_EQ(manager.Request("AI Menu Suite"), 0);
+  EXPECT_EQ(manager.Request("AI Menu Suite"), 0);
+  EXPECT_THAT(FakeBasicSuite::TakeLog(), ElementsAre("+ AI Menu Suite 1011"));
+  EXPECT_NE(sAIMenu, nullptr);
+
+  FakeBasicSuite::refused = {"AI Layer Suite"};
+  EXPECT_EQ(manager.Request("AI Layer Suite"), kSPSuiteNotFoundError);
+  EXPECT_EQ(manager.Request("AI Layer Suite"), 0) << "marked all the same";
+  EXPECT_EQ(sAILayer, nullptr);
+  FakeBasicSuite::refused.clear();
+  manager.Release();
+  manager.Acquire();
+  EXPECT_NE(sAILayer, nullptr) << "the next first level tries again";
+}
+
+}  // namespace

@@ -1,0 +1,116 @@
+// What goes into the tables of wrappers, what comes out, and who destroys it.
+#include <memory>
+
+#include "Annotator.h"
+#include "FramePlugin.h"
+#include "HMX_AIMenu.h"
+#include "HMX_AINotifier.h"
+#include "HMX_AITool.h"
+
+namespace {
+
+class Tables : public FrameTest {
+ protected:
+  ~Tables() override { plugin.reset(); }
+
+  int alive = 0;
+};
+
+template <typename Base>
+struct Counted : Base {
+  template <typename... Arguments>
+  explicit Counted(int& counter, Arguments&&... arguments)
+      : Base(std::forward<Arguments>(arguments)...), alive(counter) {
+    ++alive;
+  }
+  ~Counted() override { --alive; }
+  int& alive;
+};
+
+struct CountedMenu : Counted<HMX_AIMenu> {
+  CountedMenu(HMX_AIPlugin* owner, int& counter) : Counted(counter, owner, "Help Menu", "title", 0) {}
+  AIErr OnAdded() override { return ++added; }
+  int added = 0;
+};
+
+TEST_F(Tables, RemovalOfWhatIsNotThereGivesItsCode) {
+  int counter = 0;
+  CountedMenu menu(plugin.get(), counter);
+  HMX_AINotifier notifier(plugin.get(), "name", "type");
+  HMX_AITool tool(plugin.get());
+  EXPECT_EQ(plugin->RemoveMenu(&menu), 0x4572524D);
+  EXPECT_EQ(plugin->RemoveNotifier(&notifier), 0x4572524E);
+  EXPECT_EQ(plugin->RemoveTool(&tool), 0x45725254);
+}
+
+TEST_F(Tables, ShutdownDestroysEverything) {
+  for (int i = 0; i < 5; ++i) {
+    plugin->AddMenu(new CountedMenu(plugin.get(), alive));
+    plugin->AddNotifier(new Counted<HMX_AINotifier>(alive, plugin.get(), "name", "type"));
+    plugin->AddTool(new Counted<HMX_AITool>(alive, plugin.get()));
+  }
+  EXPECT_EQ(alive, 15);
+  SPMessageData head = Head();
+  plugin->Dispatch("SP Interface", "Shutdown", &head);
+  EXPECT_EQ(alive, 0);
+}
+
+TEST_F(Tables, AMenuStandsInTheTableOnce) {
+  auto* menu = new CountedMenu(plugin.get(), alive);
+  EXPECT_EQ(plugin->AddMenu(menu), kNoErr);
+  EXPECT_EQ(plugin->AddMenu(menu), kNoErr);
+  EXPECT_EQ(menu->added, 2);
+  EXPECT_EQ(plugin->RemoveMenu(menu), kNoErr);
+  EXPECT_EQ(plugin->RemoveMenu(menu), ErrorCode("ErRM"));
+  EXPECT_EQ(alive, 1) << "what is taken out is not destroyed";
+  delete menu;
+}
+
+TEST_F(Tables, ANotifierEnteredTwiceGoesAltogether) {
+  auto* notifier = new Counted<HMX_AINotifier>(alive, plugin.get(), "name", "type");
+  plugin->AddNotifier(notifier);
+  plugin->AddNotifier(notifier);
+  EXPECT_EQ(plugin->RemoveNotifier(notifier), kNoErr);
+  EXPECT_EQ(plugin->RemoveNotifier(notifier), ErrorCode("ErRN"));
+  plugin->AddNotifier(notifier);
+  plugin->AddNotifier(notifier);  // destroyed once, with the table
+}
+
+TEST_F(Tables, WhoDestroysAnEntryLeavesNoTrace) {
+  delete plugin->MakeMenu<CountedMenu>(plugin.get(), alive);
+  delete plugin->MakeNotifier<Counted<HMX_AINotifier>>(alive, plugin.get(), "name", "type");
+  auto* tool = new Counted<HMX_AITool>(alive, plugin.get());
+  plugin->AddTool(tool);
+  delete tool;
+  EXPECT_EQ(alive, 0);
+  SPMessageData head = Head();
+  EXPECT_EQ(plugin->Dispatch("SP Interface", "Shutdown", &head), kNoErr);
+}
+
+TEST_F(Tables, TenToolsAndNoMore) {
+  HMX_AITool* tools[10];
+  for (HMX_AITool*& tool : tools) {
+    tool = new HMX_AITool(plugin.get());
+    EXPECT_EQ(plugin->AddTool(tool), kNoErr);
+  }
+  EXPECT_EQ(plugin->AddTool(tools[3]), kNoErr) << "it is there already";
+  auto spare = std::make_unique<HMX_AITool>(plugin.get());
+  EXPECT_EQ(plugin->AddTool(spare.get()), 0x45724154);
+  EXPECT_EQ(plugin->RemoveTool(tools[3]), kNoErr);
+  EXPECT_EQ(plugin->AddTool(spare.get()), kNoErr) << "the freed slot is used again";
+  EXPECT_EQ(plugin->AddTool(tools[3]), ErrorCode("ErAT"));
+  (void)spare.release();
+  delete tools[3];
+}
+
+TEST_F(Tables, AnAnnotatorTheHostRefusesStaysOutside) {
+  ASSERT_EQ(host.refusal().add("AI Annotator Suite:AddAnnotator"), "");
+  auto annotator = std::make_unique<Vandrell::AIPluginWrappers::Annotator>(plugin.get());
+  EXPECT_EQ(annotator->GetHandle(), nullptr);
+  const std::uint64_t calls = host.refusal().callCount();
+  plugin->EndApplication();
+  EXPECT_EQ(host.refusal().callCount(), calls);
+  annotator.reset();
+}
+
+}  // namespace

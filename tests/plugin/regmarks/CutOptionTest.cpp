@@ -1,0 +1,134 @@
+#include "CutOption.h"
+
+#include <cmath>
+
+#include <gtest/gtest.h>
+
+#include "AutoMarkCount.h"
+#include "Drawing.h"
+#include "RegmarkStyle.h"
+
+namespace Vandrell::Corvane {
+namespace {
+
+TEST(CutOption, StartsWithSixMillimetreDiscsOnTheCorners) {
+  Drawing drawing;
+  const CutOption option;
+  EXPECT_EQ(option.shape, 0U);
+  EXPECT_EQ(option.action, 1U);
+  EXPECT_EQ(option.size, 17.007874015748033);
+  EXPECT_EQ(option.strokeWeight, 2.8346456692913384);
+  EXPECT_EQ(option.fillColor.kind, kFourColor);
+  EXPECT_EQ(option.fillColor.c.f.black, 1.0);
+  EXPECT_EQ(option.fillColor.c.f.cyan, 0.0);
+  EXPECT_EQ(option.strokeColor.kind, kNoneColor);
+}
+
+struct ScaleCase {
+  double artWidth, artHeight;  // 0: no art
+  double documentScale;
+  std::int64_t maximum, halfWay;
+};
+
+TEST(CutOption, ScalesTheCountWithTheArt) {
+  const ScaleCase cases[] = {
+      {1000, 20, 1, 10, 6}, {2000, 20, 1, 13, 7},  {20, 2000, 1, 13, 7},   {1583.9, 20, 1, 10, 6},
+      {1584, 20, 1, 11, 6}, {200, 100, 10, 13, 7}, {200, 100, 0.1, 10, 6}, {0, 0, 1, 12, 7},
+  };
+  for (const ScaleCase& c : cases) {
+    SCOPED_TRACE(testing::Message() << c.artWidth << " x " << c.artHeight << " at " << c.documentScale);
+    Drawing drawing({0, 792, 612, 0}, c.documentScale);
+    if (c.artWidth > 0) drawing.addRectangle(0, 0, c.artWidth, c.artHeight);
+    const CutOption option;
+    EXPECT_EQ(option.maxCount, c.maximum);
+    EXPECT_EQ(option.count, c.halfWay);
+    EXPECT_EQ(AutoMarkCountFromSlider(0), 2);
+    EXPECT_EQ(AutoMarkCountFromSlider(1), c.maximum);
+    EXPECT_DOUBLE_EQ(SliderFromAutoMarkCount(c.halfWay),
+                     static_cast<double>(c.halfWay - 2) / static_cast<double>(c.maximum - 2));
+  }
+}
+
+TEST(CutOption, SurvivesAbsurdFractions) {
+  Drawing drawing;
+  for (const double fraction : {1e300, -1e300, std::nan(""), -0.2}) {
+    CutOption option;
+    option.count = AutoMarkCountFromSlider(fraction);
+    option.SavePreferences();
+    option.LoadPreferences();
+  }
+  EXPECT_EQ(AutoMarkCountFromSlider(-0.2), 0);  // of a scale of 10: 2 less than Few
+  EXPECT_EQ(AutoMarkCountFromSlider(std::nan("")), 2);
+}
+
+TEST(CutOption, KeepsItsChoicesInThePreferences) {
+  Drawing drawing;
+  drawing.addRectangle(0, 0, 2000, 20);
+  CutOption option;
+  option.shape = kCrossRegmark;
+  option.action = kEdgeRing;
+  option.size = 12.5;
+  option.strokeWeight = 0;
+  option.count = 13;
+  option.SavePreferences();
+
+  const host::Preferences& stored = drawing.host.preferences();
+  EXPECT_EQ(stored.integer("Corvane", "Shape"), 2);
+  EXPECT_EQ(stored.integer("Corvane", "Action"), 4);
+  EXPECT_EQ(stored.real("Corvane", "Size"), 12.5);
+  EXPECT_EQ(stored.real("Corvane", "StrokeWeight"), 0.0);
+  EXPECT_EQ(stored.real("Corvane", "sliderrealvalue"), 1.0);
+
+  drawing.addRectangle(0, 0, 10 * 2000, 20);  // Many is now more
+  CutOption loaded;
+  loaded.LoadPreferences();
+  EXPECT_EQ(loaded.shape, kCrossRegmark);
+  EXPECT_EQ(loaded.action, kEdgeRing);
+  EXPECT_EQ(loaded.size, 12.5);
+  EXPECT_EQ(loaded.strokeWeight, 0.0);
+  EXPECT_EQ(loaded.count, 138);
+}
+
+TEST(CutOption, LeavesDefaultsWhereNothingIsStored) {
+  Drawing drawing;
+  drawing.host.preferences().put("Corvane", "Action", 3);
+  drawing.host.preferences().put("Corvane", "Size", std::string("large"));
+  CutOption option;
+  option.LoadPreferences();
+  EXPECT_EQ(option.action, kAutoMarks);
+  EXPECT_EQ(option.shape, kRoundRegmark);
+  EXPECT_EQ(option.size, 17.007874015748033);
+  EXPECT_EQ(option.count, 7);
+}
+
+struct StyleCase {
+  std::uint32_t shape;
+  AIColorTag fill;
+  double extent;
+};
+
+TEST(RegmarkStyle, IsTheOptionInDocumentUnits) {
+  Drawing drawing({0, 792, 612, 0}, 10);
+  const StyleCase cases[] = {{kRoundRegmark, kFourColor, 2.3},
+                             {kRoundRegmark, kNoneColor, 2.3},
+                             {kCrossRegmark, kFourColor, 2.6},
+                             {kCrossRegmark, kNoneColor, 2},
+                             {2, kFourColor, 0}};
+  for (const StyleCase& c : cases) {
+    SCOPED_TRACE(testing::Message() << c.shape << " filled with " << c.fill);
+    CutOption option;
+    option.shape = c.shape;
+    option.size = 20;
+    option.strokeWeight = 3;
+    option.fillColor.kind = c.fill;
+    const RegmarkStyle style = MakeRegmarkStyle(option);
+    EXPECT_DOUBLE_EQ(style.size, 2);
+    EXPECT_DOUBLE_EQ(style.strokeWeight, 0.3);
+    EXPECT_EQ(style.fillColor.kind, c.fill);
+    EXPECT_EQ(style.strokeColor.kind, kNoneColor);
+    EXPECT_DOUBLE_EQ(RegmarkExtent(style), c.extent);
+  }
+}
+
+}  // namespace
+}  // namespace Vandrell::Corvane

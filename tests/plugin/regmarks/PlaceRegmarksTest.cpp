@@ -1,0 +1,246 @@
+#include "PlaceRegmarks.h"
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "ArtBounds.h"
+#include "CutOption.h"
+#include "Drawing.h"
+#include "ExpectPositions.h"
+
+namespace Vandrell::Corvane {
+namespace {
+
+// Round marks without a stroke: their size is their extent.
+CutOption Option(std::uint32_t action, double size) {
+  CutOption option;
+  option.action = action;
+  option.size = size;
+  option.strokeWeight = 0;
+  return option;
+}
+
+AIErr Place(std::uint32_t action, double size, std::int32_t& failures) {
+  return PlaceRegmarks(Option(action, size), failures);
+}
+
+struct CornerCase {
+  const char* what;
+  AIRealRect artboard;
+  AIRealRect art;
+  double scale;
+  std::int32_t failures;
+  PositionList marks;
+};
+
+TEST(CornerMarks, FrameTheArtAsFarAsTheyFitOnTheArtboard) {
+  const AIRealRect page{0, 792, 612, 0};
+  const CornerCase cases[] = {
+      {"a fifth at its distance",
+       page,
+       {100, 500, 400, 100},
+       1,
+       0,
+       {{373.46, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}}},
+      {"touching the edge of the artboard",
+       {85, 515, 415, 85},
+       {100, 500, 400, 100},
+       1,
+       0,
+       {{373.46, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}}},
+      {"no room on the left",
+       {86, 515, 415, 85},
+       {100, 500, 400, 100},
+       1,
+       2,
+       {{373.46, 90}, {410, 510}, {410, 90}}},
+      {"only the fifth has room", {200, 792, 400, 0}, {100, 500, 400, 100}, 1, 4, {{373.46, 90}}},
+      {"no room at all", {0, 50, 50, 0}, {100, 500, 400, 100}, 1, 4, {}},
+      {"a large document",
+       {0, 79.2, 61.2, 0},
+       {10, 50, 40, 10},
+       10,
+       0,
+       {{37.346, 9}, {9, 51}, {41, 51}, {41, 9}, {9, 9}}},
+  };
+  for (const CornerCase& c : cases) {
+    SCOPED_TRACE(c.what);
+    Drawing drawing(c.artboard, c.scale);
+    drawing.addRectangle(c.art.left, c.art.bottom, c.art.right, c.art.top);
+    std::int32_t failures = 99;
+    EXPECT_EQ(Place(kCornerMarks, 10, failures), kNoErr);
+    EXPECT_EQ(failures, c.failures);
+    ExpectPositions(drawing.marks(), c.marks);
+  }
+}
+
+struct BoundsCase {
+  const char* what;
+  std::function<void(Drawing&)> prepare;
+  AIErr result;
+  AIRealRect bounds;
+};
+
+TEST(ArtBounds, CountEveryLayerButTheMarks) {
+  const BoundsCase cases[] = {
+      {"nothing", [](Drawing&) {}, kNoArtBoundsErr, {}},
+      {"one shape", [](Drawing& d) { d.addRectangle(1, 2, 3, 4); }, kNoErr, {1, 4, 3, 2}},
+      {"a flat shape alone", [](Drawing& d) { d.addRectangle(1, 2, 3, 2); }, kNoArtBoundsErr, {}},
+      {"a path without paint",
+       [](Drawing& d) {
+         d.addRectangle(1, 2, 3, 4);
+         d.document().setStyle(d.addRectangle(-10, -20, 0, 0), std::make_shared<const AIPathStyle>());
+       },
+       kNoErr,
+       {1, 4, 3, 2}},
+      {"hidden and locked layers",
+       [](Drawing& d) {
+         d.addRectangle(1, 2, 3, 4);
+         host::Layer& layer = d.document().editLayer(d.addLayer("Hidden"));
+         layer.visible = layer.editable = false;
+         d.addRectangle(-10, -20, 0, 0);
+       },
+       kNoErr,
+       {-10, 4, 3, -20}},
+      {"marks in any case",
+       [](Drawing& d) {
+         d.addRectangle(1, 2, 3, 4);
+         d.addLayer("REGmark");
+         d.addRectangle(-10, -20, 0, 0);
+         d.addLayer("Regmark 2");
+         d.addRectangle(5, 5, 6, 6);
+       },
+       kNoErr,
+       {1, 6, 6, 2}},
+      {"a refused layer title",
+       [](Drawing& d) { d.host.refusal().add("AI Layer Suite:GetLayerTitle"); },
+       kSPCanceledByHostError,
+       {}},
+      {"a refused group",
+       [](Drawing& d) { d.host.refusal().add("AI Art Suite:GetFirstArtOfLayer"); },
+       kSPCanceledByHostError,
+       {}},
+      {"refused bounds",
+       [](Drawing& d) { d.host.refusal().add("AI Art Suite:GetArtTransformBounds"); },
+       kSPCanceledByHostError,
+       {}},
+  };
+  for (const BoundsCase& c : cases) {
+    SCOPED_TRACE(c.what);
+    Drawing drawing;
+    c.prepare(drawing);
+    AIRealRect bounds;
+    ASSERT_EQ(GetArtBoundsWithoutRegmarks(bounds), c.result);
+    if (c.result != kNoErr) continue;
+    EXPECT_DOUBLE_EQ(bounds.left, c.bounds.left);
+    EXPECT_DOUBLE_EQ(bounds.top, c.bounds.top);
+    EXPECT_DOUBLE_EQ(bounds.right, c.bounds.right);
+    EXPECT_DOUBLE_EQ(bounds.bottom, c.bounds.bottom);
+  }
+}
+
+TEST(PlaceRegmarks, ReplacesTheMarksOfAnEarlierPlacement) {
+  Drawing drawing;
+  drawing.addRectangle(100, 100, 400, 500);
+  std::int32_t failures = 0;
+  for (const std::uint32_t action : {kCornerMarks, kAutoMarks, kEdgeRing, kCornerMarks}) {
+    EXPECT_EQ(Place(action, 10, failures), kNoErr);
+    EXPECT_GE(drawing.marks().size(), 4U);
+    EXPECT_EQ(drawing.layerTitles().size(), 2U);
+  }
+  EXPECT_EQ(drawing.marks().size(), 5U);
+}
+
+TEST(PlaceRegmarks, DoesNothingForMarksByHandAndUnknownActions) {
+  Drawing drawing;
+  drawing.addRectangle(100, 100, 400, 500);
+  std::int32_t failures = 0;
+  Place(kCornerMarks, 10, failures);
+  const std::uint64_t before = drawing.document().revision();
+  for (const std::uint32_t action : {0U, 4U, 0xFFFFFFFFU}) {
+    failures = 99;
+    EXPECT_EQ(Place(action, 10, failures), kNoErr);
+    EXPECT_EQ(failures, 0);
+    EXPECT_EQ(drawing.document().revision(), before);
+  }
+}
+
+TEST(PlaceRegmarks, ClearsTheOldMarksEvenIfThereIsNoArt) {
+  for (const std::uint32_t action : {kCornerMarks, kAutoMarks}) {
+    Drawing drawing;
+    drawing.addLayer("Regmark");
+    drawing.addRectangle(0, 0, 10, 10);
+    std::int32_t failures = 99;
+    EXPECT_EQ(Place(action, 10, failures), kNoArtBoundsErr);
+    EXPECT_EQ(failures, 0);
+    EXPECT_EQ(drawing.layerTitles(), std::vector<std::string>{"Artwork"});
+  }
+}
+
+TEST(PlaceRegmarks, StopsAtTheFirstMarkThatCannotBeDrawn) {
+  Drawing drawing;
+  drawing.addRectangle(100, 100, 400, 500);
+  ASSERT_EQ(drawing.host.refusal().add("AI Art Suite:NewArt:3"), "");
+  std::int32_t failures = 0;
+  EXPECT_EQ(Place(kCornerMarks, 10, failures), kSPCanceledByHostError);
+  ExpectPositions(drawing.marks(), {{373.46, 90}, {90, 510}});
+}
+
+// Sizes that only a preference file can hold.
+TEST(PlaceRegmarks, EndsForSizesThatMakeNoSense) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const double size : {0.0, -5.0, 1e-9, 1e4, 1e9, 1e300, infinity, -infinity, std::nan("")}) {
+    for (const std::uint32_t action : {kCornerMarks, kAutoMarks, kEdgeRing}) {
+      SCOPED_TRACE(testing::Message() << "size " << size << ", action " << action);
+      Drawing drawing;
+      drawing.addRectangle(100, 100, 400, 500);
+      std::int32_t failures = 0;
+      const AIErr result = Place(action, size, failures);
+      if (action == kAutoMarks && size == 1e-9) {
+        EXPECT_EQ(result, kOutOfMemoryErr);
+      }
+      if (action == kAutoMarks && size <= 0.0 && std::isfinite(size)) {
+        EXPECT_EQ(result, kNoErr);
+        EXPECT_TRUE(drawing.marks().empty());
+      }
+    }
+  }
+}
+
+// Calls of the host that placing makes in a small drawing, before any is refused.
+std::uint64_t CallsOf(std::uint32_t action) {
+  Drawing drawing({0, 200, 200, 0});
+  drawing.addRectangle(90, 90, 110, 110);
+  const std::uint64_t before = drawing.host.refusal().callCount();
+  std::int32_t failures = 0;
+  Place(action, 10, failures);
+  return drawing.host.refusal().callCount() - before;
+}
+
+// Whatever call the host refuses, the next placement finds nothing broken. What lies between the first calls
+// and the last is point tests.
+TEST(PlaceRegmarks, SurvivesTheRefusalOfAnyCall) {
+  constexpr std::uint64_t kEnds = 40;
+  for (const std::uint32_t action : {kCornerMarks, kAutoMarks, kEdgeRing}) {
+    const std::uint64_t calls = CallsOf(action);
+    for (std::uint64_t call = 1; call <= calls;
+         call += call == kEnds && calls > 2 * kEnds ? calls - 2 * kEnds : 1) {
+      SCOPED_TRACE(testing::Message() << "action " << action << ", call " << call << " of " << calls);
+      Drawing drawing({0, 200, 200, 0});
+      drawing.addRectangle(90, 90, 110, 110);
+      std::int32_t failures = 0;
+      drawing.host.refusal().armNth(call);
+      Place(action, 10, failures);
+      EXPECT_EQ(drawing.host.refusal().refused().size(), 1U);
+      drawing.host.refusal().clear();
+      EXPECT_EQ(Place(action, 10, failures), kNoErr);
+      EXPECT_FALSE(drawing.marks().empty());
+    }
+  }
+}
+
+}  // namespace
+}  // namespace Vandrell::Corvane
