@@ -7,93 +7,106 @@ namespace host {
 
 namespace {
 
+constexpr int kMostDoublings = 24;
+// Cells are square, or longer than wide (or the other way round) by a power of this, so that the grids stay
+// few.
+constexpr int kThinnings = 4;  // doublings
+
 // Never decreases as the coordinate grows, so whatever lies between two coordinates lies between their cells.
-std::int64_t cellIndex(double coordinate, double origin, double cellsPerUnit, std::int64_t count) {
+std::uint32_t cellIndex(double coordinate, double origin, double cellsPerUnit, std::uint32_t count) {
   const double cell = (coordinate - origin) * cellsPerUnit;
   if (!(cell > 0)) return 0;
-  return cell < static_cast<double>(count) ? static_cast<std::int64_t>(cell) : count - 1;
+  return cell < count ? static_cast<std::uint32_t>(cell) : count - 1;
+}
+
+// How often `cell` must be doubled to reach `size`.
+int doublings(double size, double cell, int most) {
+  if (!(size > cell)) return 0;
+  return std::min(most, static_cast<int>(std::ceil(std::log2(size / cell))));
 }
 
 }  // namespace
 
-void HitGrid::setLevels(const AIRealRect& region, std::size_t entryCount) {
-  origin_ = {region.left, region.bottom};
-  const double width = region.right - region.left;
-  const double height = region.top - region.bottom;
-  const auto count = static_cast<double>(std::max<std::size_t>(entryCount, 1));
-  double cell = std::max(std::sqrt(width / count * height), std::max(width, height) / count);
-  if (!(cell > 0)) cell = 1;
-  levels_.clear();
-  while (true) {
-    const auto columns = static_cast<std::int64_t>(width / cell) + 1;
-    const auto rows = static_cast<std::int64_t>(height / cell) + 1;
-    levels_.push_back({columns, rows, 1 / cell, 0});
-    if ((columns == 1 && rows == 1) || levels_.size() == kMaxLevels) break;
-    cell *= 2;
+void HitGrid::addGrid(int widening, int heightening) {
+  const double width = std::ldexp(finest_, widening);
+  const double height = std::ldexp(finest_, heightening);
+  const auto count = [this](int doubled, double size, double cell) {
+    return doubled == mostDoublings_ ? 1 : static_cast<std::uint32_t>(size / cell) + 1;
+  };
+  const std::uint32_t columns = count(widening, region_.right - region_.left, width);
+  const std::uint32_t rows = count(heightening, region_.top - region_.bottom, height);
+  grids_.push_back({widening, heightening, 1 / width, 1 / height, columns, rows, 0});
+}
+
+// Made if there is none yet; the last one that there is room for takes everything.
+std::size_t HitGrid::gridFor(const HitBox& box) {
+  int widening = doublings(box.width(), finest_, mostDoublings_);
+  int heightening = doublings(box.height(), finest_, mostDoublings_);
+  const int larger = std::max(widening, heightening);
+  widening = larger - (larger - widening) / kThinnings * kThinnings;
+  heightening = larger - (larger - heightening) / kThinnings * kThinnings;
+  for (std::size_t i = 0; i < grids_.size(); ++i) {
+    if (grids_[i].widening == widening && grids_[i].heightening == heightening) return i;
   }
-  levels_.back().columns = levels_.back().rows = 1;
-}
-
-std::size_t HitGrid::levelOf(const HitBox& box) const {
-  const double size = std::max(box.width(), box.height());
-  std::size_t level = 0;
-  while (level + 1 < levels_.size() && size * levels_[level].cellsPerUnit > 1) ++level;
-  return level;
-}
-
-std::size_t HitGrid::cellAt(const Level& level, AIRealPoint point) const {
-  const std::int64_t column = cellIndex(point.x, origin_.x, level.cellsPerUnit, level.columns);
-  const std::int64_t row = cellIndex(point.y, origin_.y, level.cellsPerUnit, level.rows);
-  return level.firstCell + static_cast<std::size_t>(row * level.columns + column);
+  if (grids_.size() == kMostGrids) return kMostGrids - 1;
+  const bool isLast = grids_.size() + 1 == kMostGrids;
+  addGrid(isLast ? mostDoublings_ : widening, isLast ? mostDoublings_ : heightening);
+  return grids_.size() - 1;
 }
 
 // From the greatest shape down.
 template <typename Visit>
-void HitGrid::forEachCell(const std::vector<HitEntry>& entries, const std::vector<std::uint8_t>& levels,
+void HitGrid::forEachCell(const std::vector<HitEntry>& entries, const std::vector<std::uint8_t>& grids,
                           Visit visit) const {
   for (std::size_t i = entries.size(); i-- > 0;) {
-    const Level& level = levels_[levels[i]];
+    const Grid& grid = grids_[grids[i]];
     const HitBox& box = entries[i].box;
-    const std::size_t first = cellAt(level, {box.left, box.bottom});
-    const std::size_t last = cellAt(level, {box.right, box.top});
-    const auto columns = static_cast<std::size_t>(level.columns);
-    const std::size_t width = (last - level.firstCell) % columns - (first - level.firstCell) % columns;
-    for (std::size_t row = first; row <= last; row += columns) {
-      for (std::size_t cell = row; cell <= row + width; ++cell) visit(entries[i], cell);
+    const std::uint32_t left = cellIndex(box.left, region_.left, grid.columnsPerUnit, grid.columns);
+    const std::uint32_t right = cellIndex(box.right, region_.left, grid.columnsPerUnit, grid.columns);
+    const std::uint32_t bottom = cellIndex(box.bottom, region_.bottom, grid.rowsPerUnit, grid.rows);
+    const std::uint32_t top = cellIndex(box.top, region_.bottom, grid.rowsPerUnit, grid.rows);
+    for (std::uint32_t row = bottom; row <= top; ++row) {
+      const std::size_t first = grid.firstCell + std::size_t{row} * grid.columns;
+      for (std::uint32_t column = left; column <= right; ++column) visit(entries[i], first + column);
     }
   }
 }
 
 void HitGrid::build(const AIRealRect& region, const std::vector<HitEntry>& entries) {
-  setLevels(region, entries.size());
-  std::vector<std::uint8_t> levels(entries.size());
-  std::array<bool, kMaxLevels> holds{};
+  region_ = region;
+  const double width = region.right - region.left;
+  const double height = region.top - region.bottom;
+  const auto count = static_cast<double>(std::max<std::size_t>(entries.size(), 1));
+  finest_ = std::max(std::sqrt(width / count * height), std::max(width, height) / count);
+  if (!(finest_ > 0)) finest_ = 1;
+  mostDoublings_ = doublings(std::max(width, height), finest_, kMostDoublings);
+
+  grids_.clear();
+  std::vector<std::uint8_t> grids(entries.size());
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    levels[i] = static_cast<std::uint8_t>(levelOf(entries[i].box));
-    holds[levels[i]] = true;
+    grids[i] = static_cast<std::uint8_t>(gridFor(entries[i].box));
   }
   std::size_t cells = 0;
-  used_.clear();
-  for (std::size_t i = 0; i < levels_.size(); ++i) {
-    if (!holds[i]) continue;
-    levels_[i].firstCell = cells;
-    cells += static_cast<std::size_t>(levels_[i].columns * levels_[i].rows);
-    used_.push_back(levels_[i]);
+  for (Grid& grid : grids_) {
+    grid.firstCell = cells;
+    cells += std::size_t{grid.columns} * grid.rows;
   }
   // Counted first, one place to the right, then summed up, then filled in.
   begins_.assign(cells + 1, 0);
-  forEachCell(entries, levels, [&](const HitEntry&, std::size_t cell) { ++begins_[cell + 1]; });
+  forEachCell(entries, grids, [&](const HitEntry&, std::size_t cell) { ++begins_[cell + 1]; });
   for (std::size_t cell = 0; cell < cells; ++cell) begins_[cell + 1] += begins_[cell];
   entries_.resize(begins_[cells]);
   std::vector<std::uint32_t> next(begins_.begin(), begins_.end());
-  forEachCell(entries, levels,
+  forEachCell(entries, grids,
               [&](const HitEntry& entry, std::size_t cell) { entries_[next[cell]++] = entry; });
 }
 
 std::size_t HitGrid::listsAt(AIRealPoint point, Lists& lists) const {
   std::size_t count = 0;
-  for (const Level& level : used_) {
-    const std::size_t cell = cellAt(level, point);
+  for (const Grid& grid : grids_) {
+    const std::uint32_t column = cellIndex(point.x, region_.left, grid.columnsPerUnit, grid.columns);
+    const std::uint32_t row = cellIndex(point.y, region_.bottom, grid.rowsPerUnit, grid.rows);
+    const std::size_t cell = grid.firstCell + std::size_t{row} * grid.columns + column;
     const List list{entries_.data() + begins_[cell], entries_.data() + begins_[cell + 1]};
     if (list.at != list.end) lists[count++] = list;
   }

@@ -1,8 +1,8 @@
 // Finds the boxes about a point, however they differ in size and wherever they crowd.
 //
-// Grids of square cells over one region, each twice as coarse as the one before. A box lies in the finest
-// grid in which it covers no more than two cells each way, so the lists take memory in proportion to the
-// number of boxes. What lies outside the region belongs to the cells at its rim.
+// Grids over one region, each with cells of another size. A box lies in a grid whose cells are so large that
+// it covers no more than two each way, so the lists take memory in proportion to the number of boxes; and not
+// much larger, so they stay short. What lies outside the region belongs to the cells at its rim.
 #pragma once
 
 #include <array>
@@ -25,37 +25,38 @@ struct HitEntry {
 
 class HitGrid {
  public:
-  static constexpr std::size_t kMaxLevels = 32;
+  static constexpr std::size_t kMostGrids = 64;
 
   // What one grid has to say about a point, from the greatest shape down. It may hold boxes beside the point.
   struct List {
     const HitEntry* at;
     const HitEntry* end;
   };
-  using Lists = std::array<List, kMaxLevels>;
+  using Lists = std::array<List, kMostGrids>;
 
   // `entries` ascend by shape.
   void build(const AIRealRect& region, const std::vector<HitEntry>& entries);
-  std::size_t listsAt(AIRealPoint point,
-                      Lists& lists) const;  // the number of lists set; empty ones are left out
+  // The number of lists set; empty ones are left out.
+  std::size_t listsAt(AIRealPoint point, Lists& lists) const;
 
  private:
-  struct Level {
-    std::int64_t columns, rows;
-    double cellsPerUnit;
+  struct Grid {
+    int widening, heightening;  // how often the finest cell was doubled
+    double columnsPerUnit, rowsPerUnit;
+    std::uint32_t columns, rows;
     std::size_t firstCell;  // in begins_
   };
 
-  void setLevels(const AIRealRect& region, std::size_t entryCount);
-  std::size_t levelOf(const HitBox& box) const;
+  std::size_t gridFor(const HitBox& box);
+  void addGrid(int widening, int heightening);
   template <typename Visit>
-  void forEachCell(const std::vector<HitEntry>& entries, const std::vector<std::uint8_t>& levels,
+  void forEachCell(const std::vector<HitEntry>& entries, const std::vector<std::uint8_t>& grids,
                    Visit visit) const;
-  std::size_t cellAt(const Level& level, AIRealPoint point) const;
 
-  AIRealPoint origin_{};
-  std::vector<Level> levels_;          // all of them, the finest first
-  std::vector<Level> used_;            // those that hold anything
+  AIRealRect region_{};
+  double finest_ = 1;  // the side of the finest cell
+  int mostDoublings_ = 0;
+  std::vector<Grid> grids_;
   std::vector<std::uint32_t> begins_;  // where each cell's entries begin; one more at the end
   std::vector<HitEntry> entries_;
 };

@@ -15,7 +15,7 @@ namespace host {
 
 namespace {
 
-constexpr double kMostEdges = 16U << 20;
+constexpr double kMostEdges = 8U << 20;
 
 double edgesOf(const PathGeometry& path, double tolerance) {
   double edges = 1;

@@ -23,7 +23,7 @@ void SvgNewContent::add(const SvgNewContent& content) {
   pieces_.insert(pieces_.end(), content.pieces_.begin(), content.pieces_.end());
 }
 
-void SvgEditPlan::replace(std::size_t begin, std::size_t end, std::string text) {
+void SvgEditPlan::replace(std::size_t begin, std::size_t end, std::string_view text) {
   SvgNewContent content;
   content.add(text);
   replace(begin, end, std::move(content));

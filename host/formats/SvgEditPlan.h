@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "SvgLayout.h"
@@ -34,7 +35,7 @@ class SvgEditPlan {
  public:
   SvgEditPlan(const SvgSource& source, const SvgLayout& layout) : source_(source), layout_(layout) {}
 
-  void replace(std::size_t begin, std::size_t end, std::string text);
+  void replace(std::size_t begin, std::size_t end, std::string_view text);
   void replace(std::size_t begin, std::size_t end, SvgNewContent content);
   void insert(std::size_t offset, SvgNewContent content);  // several at one place keep their order
   void cut(NodeIndex element);

@@ -19,7 +19,7 @@ std::string upperCase(std::string_view text) {
 
 // The converter's name of an encoding that files may name; empty for others.
 std::string converterName(std::string_view name) {
-  const std::string upper = upperCase(name);
+  std::string upper = upperCase(name);
   const auto startsWith = [&upper](std::string_view prefix) {
     return upper.compare(0, prefix.size(), prefix) == 0;
   };
@@ -43,7 +43,7 @@ class Converter {
   Converter(const Converter&) = delete;
   Converter& operator=(const Converter&) = delete;
 
-  bool isOpen() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+  bool isOpen() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
   std::int32_t character(unsigned char byte) const {
     char in = static_cast<char>(byte);
     unsigned char out[4] = {};

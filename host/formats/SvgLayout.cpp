@@ -81,7 +81,7 @@ std::string SvgLayout::childBreak(NodeIndex element) const {
 }
 
 std::string SvgLayout::closeBreak(NodeIndex element) const {
-  const std::string before = breakBefore(source_.node(element).begin);
+  std::string before = breakBefore(source_.node(element).begin);
   if (!before.empty()) return before;
   return hasLineBreaks() && element == source_.root() ? "\n" : "";
 }

@@ -81,12 +81,12 @@ void SvgTagEdit::write(const Change& change, SvgEditPlan& plan, SvgPrefixes& pre
   if (there && change.value) {
     plan.replace(there->begin, there->end, escapedAttribute(*change.value, there->quote));
   } else if (there) {
-    plan.replace(there->outerBegin, there->outerEnd, std::string());
+    plan.replace(there->outerBegin, there->outerEnd, "");
   } else if (change.value) {
     std::string text;
     appendAttribute(text, prefixes.name(element_, change.nameSpace, change.name, kRootScope), *change.value);
     const std::size_t place = source_.attributeInsertion(element_);
-    plan.replace(place, place, std::move(text));
+    plan.replace(place, place, text);
   }
 }
 

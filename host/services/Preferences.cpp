@@ -110,7 +110,7 @@ std::string nameForBroken(const std::string& file) {
   return name;
 }
 
-// The folder is made for its user alone, as the XDG base directory specification asks.
+// The folder is made for its user alone, as the XDG base directory standard asks.
 void makeFolderOf(const std::string& file) {
   const std::filesystem::path folder = std::filesystem::path(file).parent_path();
   if (folder.empty() || !std::filesystem::create_directories(folder)) return;

@@ -35,6 +35,8 @@ struct Case {
   int scale;
 };
 
+void PrintTo(const Case& row, std::ostream* stream) { *stream << row.name; }
+
 // Few enough calls that every single one can be refused in turn: a large document scale makes the
 // samples of free space few.
 class RefusedCall : public testing::TestWithParam<Case> {};

@@ -5,9 +5,13 @@ namespace {
 
 const std::string kOpen = R"(<svg xmlns="http://www.w3.org/2000/svg" width="96" height="96")";
 
+// The root group of a new layer on top.
+ArtId newLayerRoot(SvgDrawing& drawing, const std::string& title) {
+  return drawing.document->layer(addLayer(drawing, title))->root;
+}
+
 void mark(SvgDrawing& drawing) {
-  const LayerId layer = addLayer(drawing, "Marks");
-  const ArtId root = drawing.document->layer(layer)->root;
+  const ArtId root = newLayerRoot(drawing, "Marks");
   const ArtId path =
       addPath(drawing, root, {{0, 72}, {7.5, 72}, {7.5, 64.5}}, filled(cmyk(0, 0, 0, 1), true));
   drawing.document->setName(path, "a \"mark\"");
@@ -31,6 +35,12 @@ std::vector<SvgWriterCase> layerCases() {
        file("<path d='M0 0h1'/>" + marksLayer("", "", kBoth))},
       {"marks with prefixes bound", file("<path d='M0 0h1'/>", kBoth), mark,
        file("<path d='M0 0h1'/>" + marksLayer("", ""), kBoth)},
+      {"marks among elements with a prefix",
+       "<s:svg xmlns:s='http://www.w3.org/2000/svg' width='9pt' height='9pt'>\n <s:text/>\n</s:svg>",
+       [](SvgDrawing& d) { d.document->newArt(kGroupArt, kPlaceInsideOnTop, newLayerRoot(d, "A")); },
+       "<s:svg xmlns:s='http://www.w3.org/2000/svg' width='9pt' height='9pt'>\n <s:text/>\n <s:g" + kBoth +
+           " inkscape:groupmode=\"layer\" inkscape:label=\"A\" ch:added=\"layer\">\n  <s:g/>\n "
+           "</s:g>\n</s:svg>"},
       {"marks above a layer, with comments behind",
        file("\n<g inkscape:groupmode='layer' inkscape:label='A'><path d='M0 0h1'/></g>\n<!-- end -->\n",
             kInk),

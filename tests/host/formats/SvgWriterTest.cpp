@@ -35,6 +35,22 @@ TEST(SvgWriterOfEncodings, WritesNewNamesInTheFilesOwn) {
                 file("<text id='a' inkscape:label=\"\xE4&#8364;&#65533;\">\xE4</text>", kInk));
 }
 
+TEST(SvgWriterOfEncodings, LaysOutUtf16LikeAnyOther) {
+  const auto wide = [](const std::string& ascii) {
+    std::string bytes = "\xFF\xFE";
+    for (const char c : ascii) bytes.append({c, '\0'});
+    return bytes;
+  };
+  SvgDrawing drawing = readDrawing(wide(file("\r\n <path id='a' d='M0 0h1'/>\r\n <g id='b' />\r\n", kInk)));
+  drawing.document->deleteArt(named(drawing, "a"));
+  drawing.document->setName(named(drawing, "b"), "B");
+  drawing.document->newArt(kGroupArt, kPlaceInsideOnTop, named(drawing, "b"));
+  drawing.document->newArt(kPathArt, kPlaceAbove, named(drawing, "b"));
+  EXPECT_EQ(writeSvg(drawing), wide(file("\r\n <g id='b' inkscape:label=\"B\">\r\n   <g/>\r\n </g>\r\n"
+                                         " <path fill=\"none\" d=\"\"/>\r\n",
+                                         kInk)));
+}
+
 TEST(SvgWriterOfStyleSheets, KeepsTheLookOfMovedArt) {
   SvgDrawing drawing = readDrawing(file(
       "<style>.x path { fill: red; stroke: blue }</style><g class='x'><g id='m'><path d='M0 0h1v1z'/></g></g>"
