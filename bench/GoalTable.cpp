@@ -31,8 +31,8 @@ int GoalTable::print() const {
   }
   const auto line = [&](const Row& row, const char* met) {
     std::printf("%-*s  %*s  %-*s  %-7s  %s\n", static_cast<int>(figureWidth), row.figure.c_str(),
-                static_cast<int>(valueWidth), row.value.c_str(), static_cast<int>(goalWidth), row.goal.c_str(), met,
-                row.note.c_str());
+                static_cast<int>(valueWidth), row.value.c_str(), static_cast<int>(goalWidth),
+                row.goal.c_str(), met, row.note.c_str());
   };
   line({"figure", "value", "goal", "note", true}, "met");
   int missed = 0;

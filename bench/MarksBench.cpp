@@ -125,9 +125,11 @@ void benchPlacement(bench::GoalTable& table, double size) {
     testPoints({points.front()});
   });
   char note[160];
-  std::snprintf(note, sizeof note, "%zu tests; index %.1f ms, with all tests %.1f ms, with the placement %.1f ms",
-                points.size(), index * 1e3, tests * 1e3, placement * 1e3);
-  const std::string figure = "10,000 shapes, marks of " + std::to_string(static_cast<int>(size)) + " pt: placement / ";
+  std::snprintf(note, sizeof note,
+                "%zu tests; index %.1f ms, with all tests %.1f ms, with the placement %.1f ms", points.size(),
+                index * 1e3, tests * 1e3, placement * 1e3);
+  const std::string figure =
+      "10,000 shapes, marks of " + std::to_string(static_cast<int>(size)) + " pt: placement / ";
   table.atMost(figure + "its tests", placement / tests, 2, note);
   table.atMost(figure + "its tests, the index left out of both", (placement - index) / (tests - index), 2);
   HMX_AISuiteManager::Instance().Release();

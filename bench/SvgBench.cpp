@@ -25,7 +25,8 @@ using Clock = std::chrono::steady_clock;
 // Closed shapes of twelve cubics each, as drawing programs write them, until the text is long enough.
 std::string drawingOfSize(std::size_t bytes) {
   std::string svg =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1000mm\" height=\"1000mm\" viewBox=\"0 0 1000 1000\">\n";
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"1000mm\" height=\"1000mm\" viewBox=\"0 0 1000 "
+      "1000\">\n";
   svg.reserve(bytes + 2000);
   char piece[160];
   for (int shape = 0; svg.size() < bytes; ++shape) {
@@ -36,8 +37,8 @@ std::string drawingOfSize(std::size_t bytes) {
     for (int i = 1; i <= 12; ++i) {
       const double a = i * M_PI / 6, r = 1.0 + 0.2 * std::sin(shape + i * 2.0);
       std::snprintf(piece, sizeof piece, " C %.3f,%.3f %.3f,%.3f %.3f,%.3f", x + 1 + std::cos(a - 0.35) * r,
-                    y + 1 + std::sin(a - 0.35) * r, x + 1 + std::cos(a - 0.17) * r, y + 1 + std::sin(a - 0.17) * r,
-                    x + 1 + std::cos(a) * r, y + 1 + std::sin(a) * r);
+                    y + 1 + std::sin(a - 0.35) * r, x + 1 + std::cos(a - 0.17) * r,
+                    y + 1 + std::sin(a - 0.17) * r, x + 1 + std::cos(a) * r, y + 1 + std::sin(a) * r);
       svg += piece;
     }
     svg += " Z\"/>\n";
@@ -87,9 +88,7 @@ struct Figures {
 
 Figures measure(std::size_t megabytes, const std::string& folder, double* memory) {
   const std::string from = folder + "/in.svg", to = folder + "/out.svg";
-  {
-    std::ofstream(from, std::ios::binary) << drawingOfSize(megabytes * 1000000);
-  }
+  { std::ofstream(from, std::ios::binary) << drawingOfSize(megabytes * 1000000); }
   if (memory != nullptr) *memory = peakMemory(from, to) / static_cast<double>(megabytes * 1000000);
   Figures figures{};
   figures.bytesAlone = median(5, [&] { host::replaceFile(to, readBytes(from)); });
@@ -119,7 +118,8 @@ int main(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks();
 
   bench::GoalTable table;
-  table.atMost("50 MB: open and save beyond reading and writing the bytes, s", large.openAndSave - large.bytesAlone, 1,
+  table.atMost("50 MB: open and save beyond reading and writing the bytes, s",
+               large.openAndSave - large.bytesAlone, 1,
                "bytes alone " + std::to_string(large.bytesAlone) + " s");
   table.atMost("50 MB: open and save / parse into elements alone", large.openAndSave / large.parseAlone, 10);
   table.atMost("50 MB / 10 MB: time per byte", large.openAndSave / small.openAndSave / 5, 1.3, "linear");

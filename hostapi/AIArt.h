@@ -11,16 +11,16 @@ enum AIArtType : std::int16_t {
   kPathArt = 2,
   kCompoundPathArt = 3,
   kTextFrameArt = 4,
-  kPlacedArt = 5,   // an image that lies in a file of its own
-  kRasterArt = 6,   // an image inside the document
-  kSymbolArt = 7,   // an instance of art that is defined elsewhere
-  kForeignArt = 8   // kept as a whole, not understood
+  kPlacedArt = 5,  // an image that lies in a file of its own
+  kRasterArt = 6,  // an image inside the document
+  kSymbolArt = 7,  // an instance of art that is defined elsewhere
+  kForeignArt = 8  // kept as a whole, not understood
 };
 
 enum AIPaintOrder : std::int16_t {
   kPlaceAbove = 1,  // beside the reference, above it
   kPlaceBelow = 2,
-  kPlaceInsideOnTop = 3,     // inside the reference, a group or a compound path
+  kPlaceInsideOnTop = 3,  // inside the reference, a group or a compound path
   kPlaceInsideOnBottom = 4,
   kPlaceAboveAll = 5,  // of all layers, or of the art of the top layer; takes no reference
   kPlaceBelowAll = 6
@@ -28,7 +28,7 @@ enum AIPaintOrder : std::int16_t {
 
 // Flags of GetArtTransformBounds. Without any: painted bounds, strokes and what they reach included.
 enum AIArtBoundsFlags : std::int32_t {
-  kNoStrokeBounds = 0x04,               // geometry only
+  kNoStrokeBounds = 0x04,                // geometry only
   kExcludeUnpaintedObjectBounds = 0x10,  // paths without fill and stroke count for nothing
   kExcludeGuideBounds = 0x40             // guides count for nothing
 };

@@ -7,7 +7,7 @@ constexpr char kAIFoldersSuite[] = "AI Folders Suite";
 constexpr std::int32_t kAIFoldersSuiteVersion = 1005;
 
 enum AIFolderType : std::int32_t {
-  kAIPluginsFolderType = 1,         // where plug-ins lie
+  kAIPluginsFolderType = 1,        // where plug-ins lie
   kAIUserWritablePluginsType = 24  // a user's own plug-ins
 };
 

@@ -5,10 +5,7 @@
 
 #include "AITypes.h"
 
-enum AICharacterEncoding : std::int32_t {
-  kAIPlatformCharacterEncoding = 0,
-  kAIUTF8CharacterEncoding = 1
-};
+enum AICharacterEncoding : std::int32_t { kAIPlatformCharacterEncoding = 0, kAIUTF8CharacterEncoding = 1 };
 
 constexpr char kAIUnicodeStringSuite[] = "AI Unicode String Suite";
 constexpr std::int32_t kAIUnicodeStringSuiteVersion = 1009;

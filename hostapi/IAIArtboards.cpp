@@ -30,7 +30,9 @@ UnicodeString ArtboardProperties::GetName() const {
   return name;
 }
 
-ArtboardList::ArtboardList() { ThrowOnError(Suite().GetArtboardList(&list_)); }
+ArtboardList::ArtboardList() {
+  ThrowOnError(Suite().GetArtboardList(&list_));
+}
 
 ArtboardList::~ArtboardList() {
   if (list_ != nullptr && sAIArtboard != nullptr) sAIArtboard->DisposeArtboardList(list_);

@@ -12,9 +12,13 @@ const AIFilePathSuite& Suite() {
 
 }  // namespace
 
-FilePath::FilePath() { ThrowOnError(Suite().New(&path_)); }
+FilePath::FilePath() {
+  ThrowOnError(Suite().New(&path_));
+}
 
-FilePath::FilePath(SPFileRef file) : FilePath() { ThrowOnError(Suite().SetFromFileReference(path_, file)); }
+FilePath::FilePath(SPFileRef file) : FilePath() {
+  ThrowOnError(Suite().SetFromFileReference(path_, file));
+}
 
 FilePath::~FilePath() {
   if (path_ != nullptr && sAIFilePath != nullptr) sAIFilePath->Dispose(path_);

@@ -31,7 +31,9 @@ class UnicodeString {
   // The same for a call that only reads.
   AIUnicodeStringHandle handle() const { return const_cast<UnicodeString*>(this)->handle(); }
 
-  friend bool operator==(const UnicodeString& a, const UnicodeString& b) { return a.as_UTF8() == b.as_UTF8(); }
+  friend bool operator==(const UnicodeString& a, const UnicodeString& b) {
+    return a.as_UTF8() == b.as_UTF8();
+  }
   friend bool operator!=(const UnicodeString& a, const UnicodeString& b) { return !(a == b); }
 
  private:

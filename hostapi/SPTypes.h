@@ -17,12 +17,12 @@ constexpr SPErr ErrorCode(const char (&text)[5]) {
 }
 
 constexpr SPErr kSPNoError = 0;
-constexpr SPErr kSPSuiteNotFoundError = ErrorCode("S!Fd");         // no suite of that name and version
-constexpr SPErr kSPBadParameterError = ErrorCode("Parm");          // a null out-parameter, an unknown reference
+constexpr SPErr kSPSuiteNotFoundError = ErrorCode("S!Fd");  // no suite of that name and version
+constexpr SPErr kSPBadParameterError = ErrorCode("Parm");   // a null out-parameter, an unknown reference
 constexpr SPErr kSPOutOfMemoryError = ErrorCode("!MEM");
 constexpr SPErr kSPUnsupportedError = ErrorCode("!UNS");
-constexpr SPErr kSPCanceledByHostError = ErrorCode("Refu");        // the host was told to refuse this call
-constexpr SPErr kSPExceptionError = ErrorCode("Excp");             // an exception ended the message
+constexpr SPErr kSPCanceledByHostError = ErrorCode("Refu");  // the host was told to refuse this call
+constexpr SPErr kSPExceptionError = ErrorCode("Excp");       // an exception ended the message
 
 // Opaque references, given out by the host; they stay valid for the host's life.
 using SPPluginRef = struct SPPluginRecord*;

@@ -50,12 +50,14 @@ struct Document::Step {
   TableChanges<DocumentState> state;
 
   bool empty() const {
-    return art.saved.empty() && layers.saved.empty() && swatches.saved.empty() && swatchGroups.saved.empty() &&
-           customColors.saved.empty() && state.saved.empty();
+    return art.saved.empty() && layers.saved.empty() && swatches.saved.empty() &&
+           swatchGroups.saved.empty() && customColors.saved.empty() && state.saved.empty();
   }
 };
 
-Document::Document() : serial_(nextSerial()) { state_.add(DocumentState{}); }
+Document::Document() : serial_(nextSerial()) {
+  state_.add(DocumentState{});
+}
 
 Document::~Document() = default;
 
@@ -388,10 +390,16 @@ bool Document::redo() {
   return true;
 }
 
-std::string Document::undoName() const { return done_.empty() ? std::string() : done_.back().name; }
+std::string Document::undoName() const {
+  return done_.empty() ? std::string() : done_.back().name;
+}
 
-std::string Document::redoName() const { return undone_.empty() ? std::string() : undone_.back().name; }
+std::string Document::redoName() const {
+  return undone_.empty() ? std::string() : undone_.back().name;
+}
 
-std::size_t Document::undoCount() const { return done_.size(); }
+std::size_t Document::undoCount() const {
+  return done_.size();
+}
 
 }  // namespace host

@@ -39,8 +39,8 @@ using ObjectId = std::uint32_t;  // 0 names nothing
 template <typename Handle>
 Handle makeHandle(HandleKind kind, std::uint32_t serial, ObjectId id) {
   if (id == 0) return nullptr;
-  const std::uint64_t bits = (std::uint64_t{static_cast<std::uint8_t>(kind)} << 56) |
-                             (std::uint64_t{serial & 0xFFFFFFU} << 32) | id;
+  const std::uint64_t bits =
+      (std::uint64_t{static_cast<std::uint8_t>(kind)} << 56) | (std::uint64_t{serial & 0xFFFFFFU} << 32) | id;
   return reinterpret_cast<Handle>(static_cast<std::uintptr_t>(bits));
 }
 

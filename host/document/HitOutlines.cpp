@@ -36,7 +36,7 @@ class Steps {
 HitOutlines::HitOutlines(double tolerance)
     : tolerance_(tolerance - HitVertex::kNarrow * HitVertex::kNarrowStep / HitVertex::kMost * 0.75) {}
 
-std::uint32_t HitOutlines::addRing() {
+std::uint32_t HitOutlines::addRing(std::vector<std::uint32_t>* curveEnds) {
   if (points_.back() != points_.front()) points_.push_back(points_.front());
   AIRealRect bounds = kEmptyRect;
   double length = 0;
@@ -46,11 +46,18 @@ std::uint32_t HitOutlines::addRing() {
     length += std::abs(point.x - last.x) + std::abs(point.y - last.y);
     last = point;
   }
-  const HitOutline outline{HitBox(bounds), static_cast<std::uint32_t>(vertices_.size()),
-                           static_cast<std::uint32_t>(points_.size()), length};
+  HitOutline outline{HitBox(bounds), static_cast<std::uint32_t>(vertices_.size()), 0, length};
   const Steps across(outline.box.left, outline.box.width(), outline.isNarrow());
   const Steps up(outline.box.bottom, outline.box.height(), outline.isNarrow());
-  for (const AIRealPoint point : points_) vertices_.push_back({across(point.x), up(point.y)});
+  auto curveEnd = curveEnds != nullptr ? curveEnds->begin() : std::vector<std::uint32_t>::iterator();
+  for (std::uint32_t i = 0; i < points_.size(); ++i) {
+    const HitVertex vertex{across(points_[i].x), up(points_[i].y)};
+    const bool repeated = i > 0 && vertex.x == vertices_.back().x && vertex.y == vertices_.back().y;
+    if (!repeated) vertices_.push_back(vertex);
+    outline.vertexCount = static_cast<std::uint32_t>(vertices_.size()) - outline.firstVertex;
+    if (curveEnds == nullptr) continue;
+    for (; curveEnd != curveEnds->end() && *curveEnd == i; ++curveEnd) *curveEnd = outline.vertexCount - 1;
+  }
   outlines_.push_back(outline);
   return static_cast<std::uint32_t>(outlines_.size() - 1);
 }
@@ -64,12 +71,12 @@ std::uint32_t HitOutlines::add(const PathGeometry& path, std::vector<std::uint32
     appendCurve(curve, curveSteps(curve, tolerance_), points_);
     if (curveEnds != nullptr) curveEnds->push_back(static_cast<std::uint32_t>(points_.size() - 1));
   }
-  return addRing();
+  return addRing(curveEnds);
 }
 
 std::uint32_t HitOutlines::addBox(const AIRealRect& box) {
   points_ = {{box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top}, {box.left, box.top}};
-  return addRing();
+  return addRing(nullptr);
 }
 
 }  // namespace host

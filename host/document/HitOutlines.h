@@ -29,7 +29,8 @@ struct HitOutline {
   bool isNarrow() const { return box.width() <= HitVertex::kNarrow && box.height() <= HitVertex::kNarrow; }
 };
 
-// An outline's points in document units: a ring, the last one again the first; or one point alone.
+// An outline's points in document units: a ring, the last one again the first; or one point alone. No two in
+// a row are the same.
 class HitRing {
  public:
   HitRing(const HitOutline& outline, const HitVertex* vertices)
@@ -70,7 +71,7 @@ class HitOutlines {
   }
 
  private:
-  std::uint32_t addRing();
+  std::uint32_t addRing(std::vector<std::uint32_t>* curveEnds);
 
   double tolerance_;
   std::vector<HitVertex> vertices_;

@@ -44,43 +44,67 @@ bool isNear(AIRealPoint a, AIRealPoint b, double half, AIRealPoint point) {
          point.y >= std::min(a.y, b.y) - half && point.y <= std::max(a.y, b.y) + half;
 }
 
-// One edge of the flattened course. At a node the true course may leave or arrive in a slightly other
-// direction than the edge.
+// How the true course runs where an edge starts or ends.
+struct Heading {
+  AIRealPoint tangent;
+  double edgeLength;  // of the shorter edge there
+};
+
+Heading headingBetween(AIRealPoint edge, AIRealPoint next) {
+  const double a = length(edge);
+  const double b = length(next);
+  return {unit(edge * (1 / a) + next * (1 / b)), std::min(a, b)};
+}
+
+// `leaving` and `arriving` are the tangents of nodes at the ends of the edge; null where there is none.
+Heading headingAt(const HitRing& ring, std::uint32_t edge, bool atStart, const AIRealPoint* leaving,
+                  const AIRealPoint* arriving) {
+  const AIRealPoint along = ring[edge + 1] - ring[edge];
+  const AIRealPoint* const tangent = atStart ? leaving : arriving;
+  if (tangent != nullptr) return {*tangent, length(along)};
+  return atStart ? headingBetween(ring[edge] - ring[edge - 1], along)
+                 : headingBetween(along, ring[edge + 2] - ring[edge + 1]);
+}
+
+// One edge of the flattened course, between the normals of the true one. Only the end that is nearer to the
+// point makes a difference.
 class EdgeTest {
  public:
-  EdgeTest(AIRealPoint a, AIRealPoint b, double half, AIRealPoint point)
-      : half_(half), edge_(b - a), fromStart_(point - a), fromEnd_(point - b) {}
-
-  // The tangents are null where the end of the edge is no node.
-  bool covers(const AIRealPoint* start, const AIRealPoint* end) const {
-    if (coversBeside() && !isCutOff(start, fromStart_, 1) && !isCutOff(end, fromEnd_, -1)) return true;
-    if (start != nullptr && isInRound(fromStart_, *start, edge_)) return true;
-    return end != nullptr && isInRound(fromEnd_, edge_, *end);
+  EdgeTest(AIRealPoint a, AIRealPoint b, double half, AIRealPoint point) : half_(half), edge_(b - a) {
+    const double along = dot(point - a, edge_);
+    const double size = squaredLength(edge_);
+    nearStart_ = 2 * along < size;
+    offset_ = nearStart_ ? point - a : point - b;
+    const double aside = cross(edge_, offset_);
+    isBeside_ = along >= 0 && along <= size && aside * aside <= half * half * size;
   }
 
-  // Is the point in the round of the bend at the end of the edge?
-  bool coversBend(AIRealPoint nextEdge) const { return isInRound(fromEnd_, edge_, nextEdge); }
+  bool isNearStart() const { return nearStart_; }
+  bool mayCover() const { return isBeside_ || isNearEnd(); }
+
+  // `heading` is that at the nearer end.
+  bool covers(const Heading& heading) const {
+    if (isBeside_ && !isCutOff(heading)) return true;
+    // Between the normals of edge and course, on the outer side.
+    return isNearEnd() && (nearStart_ ? isInBend(offset_, heading.tangent, edge_)
+                                      : isInBend(offset_, edge_, heading.tangent));
+  }
 
  private:
-  bool coversBeside() const {
-    const double aside = cross(edge_, fromStart_);
-    return aside * aside <= half_ * half_ * squaredLength(edge_) && dot(fromStart_, edge_) >= 0 &&
-           dot(fromEnd_, edge_) <= 0;
-  }
+  bool isNearEnd() const { return squaredLength(offset_) <= half_ * half_; }
 
-  // A gently bent course ends upright on its tangent. One that bends harder than the half width sweeps over
-  // what would be cut.
-  bool isCutOff(const AIRealPoint* tangent, AIRealPoint offset, double side) const {
-    return tangent != nullptr && dot(offset, *tangent) * side < 0 && dot(*tangent, edge_) > 0 &&
-           2 * half_ * std::abs(cross(*tangent, edge_)) < squaredLength(edge_);
-  }
-
-  bool isInRound(AIRealPoint offset, AIRealPoint in, AIRealPoint out) const {
-    return squaredLength(offset) <= half_ * half_ && isInBend(offset, in, out);
+  // Is the point beyond the normal? A course that bends harder than the half width sweeps there all the same.
+  bool isCutOff(const Heading& heading) const {
+    const double beyond = dot(offset_, heading.tangent);
+    return (nearStart_ ? beyond < 0 : beyond > 0) && dot(heading.tangent, edge_) > 0 &&
+           2 * half_ * std::abs(cross(heading.tangent, edge_)) < heading.edgeLength * length(edge_);
   }
 
   double half_;
-  AIRealPoint edge_, fromStart_, fromEnd_;
+  AIRealPoint edge_;
+  AIRealPoint offset_{};  // of the point, from the nearer end
+  bool nearStart_ = false;
+  bool isBeside_ = false;  // within the half width
 };
 
 }  // namespace
@@ -138,13 +162,13 @@ bool HitStrokes::covers(const HitOutlines& outlines, std::uint32_t pieceIndex, A
   AIRealPoint from = ring[piece.firstEdge];
   for (std::uint32_t edge = piece.firstEdge; edge < piece.endEdge; ++edge) {
     const AIRealPoint to = ring[edge + 1];
-    const AIRealPoint* start = nullptr;
-    for (; node != end && node->vertex == edge; ++node) start = &node->node.out;
+    const AIRealPoint* leaving = nullptr;
+    for (; node != end && node->vertex == edge; ++node) leaving = &node->node.out;
     if (isNear(from, to, pen.half, point)) {
-      const bool endsAtNode = node != end && node->vertex == edge + 1;
+      const AIRealPoint* const arriving = node != end && node->vertex == edge + 1 ? &node->node.in : nullptr;
       const EdgeTest test(from, to, pen.half, point);
-      if (test.covers(start, endsAtNode ? &node->node.in : nullptr)) return true;
-      if (!endsAtNode && test.coversBend(ring[edge + 2] - to)) return true;
+      if (test.mayCover() && test.covers(headingAt(ring, edge, test.isNearStart(), leaving, arriving)))
+        return true;
     }
     from = to;
   }

@@ -75,9 +75,9 @@ std::string showAllArtboards(const SvgDrawing& drawing, std::string svg) {
   const AIRealPoint from = apply(rootFromDocument, {all.left, all.top});
   const AIRealPoint to = apply(rootFromDocument, {all.right, all.bottom});
   std::vector<SvgEdit> edits;
-  setRootAttribute(source, edits, "viewBox",
-                   number(from.x) + " " + number(from.y) + " " + number(to.x - from.x) + " " +
-                       number(to.y - from.y));
+  setRootAttribute(
+      source, edits, "viewBox",
+      number(from.x) + " " + number(from.y) + " " + number(to.x - from.x) + " " + number(to.y - from.y));
   setRootAttribute(source, edits, "width", number(all.right - all.left) + "pt");
   setRootAttribute(source, edits, "height", number(all.top - all.bottom) + "pt");
   setRootAttribute(source, edits, "preserveAspectRatio", "none");

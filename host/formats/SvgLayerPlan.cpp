@@ -61,6 +61,10 @@ bool anyIs(const std::vector<Entry>& content, Candidate candidate) {
                      [=](const Entry& entry) { return entry.candidate == candidate; });
 }
 
+bool isOfTheFile(const Entry& entry) {
+  return entry.candidate != Candidate::Added;
+}
+
 std::string layerTitle(const SvgSource& source, const Entry& entry) {
   if (entry.candidate == Candidate::Added) return std::string(labelOf(source, entry.element));
   return titleOf(source, entry.element);
@@ -91,7 +95,10 @@ std::vector<SvgLayerPlan> planLayers(const SvgSource& source) {
     }
     plan[stray].stray.push_back(entry.element);
   }
-  if (plan.empty()) plan.push_back({kStrayTitle, source.root(), {}});
+  // A drawing that was empty before this host added layers to it still has the layer it had then.
+  if (std::none_of(content.begin(), content.end(), isOfTheFile)) {
+    plan.insert(plan.begin(), {kStrayTitle, source.root(), {}});
+  }
   return plan;
 }
 

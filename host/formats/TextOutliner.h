@@ -9,7 +9,7 @@
 namespace host {
 
 struct TextRun {
-  std::string text;  // UTF-8, one line
+  std::string text;    // UTF-8, one line
   std::string family;  // as CSS lists them: "Arial, sans-serif"
   double size = 16;    // user units
   int weight = 400;    // 100..900

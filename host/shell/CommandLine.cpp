@@ -19,7 +19,8 @@ CLI::Option* addLength(CLI::App& command, const std::string& name, double& point
           name,
           [&points](const std::string& text) {
             const std::optional<double> length = pointsOf(text);
-            if (!length) throw CLI::ValidationError("\"" + text + "\" is no length; write 10pt, 6mm or 0.25in");
+            if (!length)
+              throw CLI::ValidationError("\"" + text + "\" is no length; write 10pt, 6mm or 0.25in");
             points = *length;
           },
           help)
@@ -34,7 +35,8 @@ void addCommonOptions(CLI::App& app, CommonOptions& common) {
   app.add_option("--pref", common.preferences, "A preference for this run")
       ->type_name("PREFIX/SUFFIX=VALUE")
       ->allow_extra_args(false);
-  app.add_option("--refuse", common.refuse, "Refuse a suite, or an entry's n-th call: \"AI Art Suite:NewArt:3\"")
+  app.add_option("--refuse", common.refuse,
+                 "Refuse a suite, or an entry's n-th call: \"AI Art Suite:NewArt:3\"")
       ->type_name("SUITE[:ENTRY[:N]]")
       ->allow_extra_args(false);
   app.add_option("--refuse-nth", common.refuseNth, "Refuse the n-th suite call of the run")->type_name("N");
@@ -43,9 +45,10 @@ void addCommonOptions(CLI::App& app, CommonOptions& common) {
 void addMarks(CLI::App& app, MarksArguments& marks) {
   CLI::App* command = app.add_subcommand("marks", "Place register marks in drawings");
   command->add_option("INPUT", marks.inputs, "SVG drawings; - is standard input")->required();
-  CLI::Option* output = command->add_option("-o,--output", marks.output, "Marked drawing; - is standard output");
-  CLI::Option* folder =
-      command->add_option("--out-dir", marks.outFolder, "Folder for the marked drawings, named like the inputs");
+  CLI::Option* output =
+      command->add_option("-o,--output", marks.output, "Marked drawing; - is standard output");
+  CLI::Option* folder = command->add_option("--out-dir", marks.outFolder,
+                                            "Folder for the marked drawings, named like the inputs");
   output->excludes(folder);
   output->type_name("FILE");
   folder->type_name("DIR");
@@ -79,8 +82,10 @@ void addInfo(CLI::App& app, InfoArguments& arguments) {
 
 // A sentence on what is missing or contradictory; empty if all is well.
 std::string complaintAbout(const MarksArguments& marks) {
-  if (marks.output.empty() && marks.outFolder.empty()) return "say where the result goes: -o FILE or --out-dir DIR";
-  if (marks.inputs.size() > 1 && marks.outFolder.empty()) return "several drawings need --out-dir DIR, not -o";
+  if (marks.output.empty() && marks.outFolder.empty())
+    return "say where the result goes: -o FILE or --out-dir DIR";
+  if (marks.inputs.size() > 1 && marks.outFolder.empty())
+    return "several drawings need --out-dir DIR, not -o";
   if (marks.json && marks.output == "-") return "--json and -o - both want standard output";
   return {};
 }
@@ -92,7 +97,8 @@ std::variant<CommandLine, ExitCode> parseCommandLine(int argc, char** argv) {
   MarksArguments marks;
   ExportArguments exporting;
   InfoArguments info;
-  CLI::App app("Opens SVG drawings, runs a plug-in on them and saves them with nothing lost.", "corvane-host");
+  CLI::App app("Opens SVG drawings, runs a plug-in on them and saves them with nothing lost.",
+               "corvane-host");
   app.fallthrough();
   app.require_subcommand(1);
   app.set_version_flag("--version", kVersionText);

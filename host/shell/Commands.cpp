@@ -14,7 +14,9 @@ struct Runner {
 
 }  // namespace
 
-void complain(const std::string& sentence) { std::cerr << "corvane-host: " << sentence << '\n'; }
+void complain(const std::string& sentence) {
+  std::cerr << "corvane-host: " << sentence << '\n';
+}
 
 int runCommandLine(int argc, char** argv) {
   const auto parsed = parseCommandLine(argc, argv);

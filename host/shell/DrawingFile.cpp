@@ -21,12 +21,15 @@ std::optional<std::string> readInput(const std::string& file, std::string& reaso
 
 std::string placeOf(const SvgError& error) {
   if (!error.position) return {};
-  return "line " + std::to_string(error.position->line) + ", column " + std::to_string(error.position->column) + ": ";
+  return "line " + std::to_string(error.position->line) + ", column " +
+         std::to_string(error.position->column) + ": ";
 }
 
 }  // namespace
 
-std::string shownName(const std::string& file) { return file == kStandardStream ? "standard input" : file; }
+std::string shownName(const std::string& file) {
+  return file == kStandardStream ? "standard input" : file;
+}
 
 std::variant<SvgDrawing, std::string> openDrawing(const std::string& file) {
   std::string reason;

@@ -20,14 +20,15 @@ struct KindName {
   const char* many;
 };
 
-constexpr std::array<KindName, 8> kKinds{{{kGroupArt, "group", "group", "groups"},
-                                          {kPathArt, "path", "path", "paths"},
-                                          {kCompoundPathArt, "compound_path", "compound path", "compound paths"},
-                                          {kTextFrameArt, "text", "text", "texts"},
-                                          {kPlacedArt, "linked_image", "linked image", "linked images"},
-                                          {kRasterArt, "embedded_image", "embedded image", "embedded images"},
-                                          {kSymbolArt, "instance", "instance", "instances"},
-                                          {kForeignArt, "other", "other", "others"}}};
+constexpr std::array<KindName, 8> kKinds{
+    {{kGroupArt, "group", "group", "groups"},
+     {kPathArt, "path", "path", "paths"},
+     {kCompoundPathArt, "compound_path", "compound path", "compound paths"},
+     {kTextFrameArt, "text", "text", "texts"},
+     {kPlacedArt, "linked_image", "linked image", "linked images"},
+     {kRasterArt, "embedded_image", "embedded image", "embedded images"},
+     {kSymbolArt, "instance", "instance", "instances"},
+     {kForeignArt, "other", "other", "others"}}};
 
 using Counts = std::map<AIArtType, std::size_t>;
 
@@ -70,7 +71,8 @@ std::string countsAsText(const Counts& counts) {
 std::string millimetres(double points) {
   std::array<char, 64> buffer{};
   const double value = points * 25.4 / 72;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2);
+  const auto end =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2);
   std::string text(buffer.data(), end.ptr);
   text.erase(text.find_last_not_of('0') + 1);
   if (text.back() == '.') text.pop_back();
@@ -87,13 +89,20 @@ Json rectAsJson(const AIRealRect& rect, double scale) {
 
 const char* swatchKind(const AIColor& color) {
   switch (color.kind) {
-    case kGrayColor: return "gray";
-    case kFourColor: return "cmyk";
-    case kThreeColor: return "rgb";
-    case kCustomColor: return "custom";
-    case kGradient: return "gradient";
-    case kPattern: return "pattern";
-    case kNoneColor: return "none";
+    case kGrayColor:
+      return "gray";
+    case kFourColor:
+      return "cmyk";
+    case kThreeColor:
+      return "rgb";
+    case kCustomColor:
+      return "custom";
+    case kGradient:
+      return "gradient";
+    case kPattern:
+      return "pattern";
+    case kNoneColor:
+      return "none";
   }
   return "none";
 }
@@ -178,7 +187,8 @@ std::string reportAsText(const SvgDrawing& drawing, const std::string& name) {
   for (const SwatchId id : document.state().swatches) {
     const Swatch& swatch = *document.swatch(id);
     const std::string group = groupName(document, swatch);
-    text += "  " + swatch.name + " (" + swatchKind(swatch.color) + (group.empty() ? "" : ", in " + group) + ")\n";
+    text +=
+        "  " + swatch.name + " (" + swatchKind(swatch.color) + (group.empty() ? "" : ", in " + group) + ")\n";
   }
   if (!drawing.remarks.empty()) text += "Not understood, or assumed:\n";
   for (const SvgRemark& remark : drawing.remarks) {

@@ -18,7 +18,9 @@ std::string loaderMessage() {
 PluginBundle::PluginBundle(std::filesystem::path place, SPPluginMain function)
     : folder_(std::move(place)), entry_(function) {}
 
-std::string PluginBundle::name() const { return folder_.stem().string(); }
+std::string PluginBundle::name() const {
+  return folder_.stem().string();
+}
 
 std::variant<PluginBundle, std::string> PluginBundle::load(const std::filesystem::path& folder) {
   std::error_code ignored;
@@ -27,8 +29,7 @@ std::variant<PluginBundle, std::string> PluginBundle::load(const std::filesystem
   if (!std::filesystem::is_directory(place, ignored)) {
     return "there is no plug-in at " + place.string();
   }
-  const std::filesystem::path library =
-      place / "Contents" / "Linux" / (place.stem().string() + ".so");
+  const std::filesystem::path library = place / "Contents" / "Linux" / (place.stem().string() + ".so");
   if (!std::filesystem::exists(library, ignored)) {
     return "the plug-in " + place.string() + " has no code for this system: " + library.string() +
            " is missing";

@@ -13,7 +13,8 @@ namespace {
 using testing::ElementsAre;
 
 std::string takeRecorded() {
-  void* image = dlopen((testBundle("Recorder") / "Contents/Linux/Recorder.so").c_str(), RTLD_NOW | RTLD_NOLOAD);
+  void* image =
+      dlopen((testBundle("Recorder") / "Contents/Linux/Recorder.so").c_str(), RTLD_NOW | RTLD_NOLOAD);
   using Take = const char* (*)();
   const std::string text = reinterpret_cast<Take>(dlsym(image, "TakeRecordedMessages"))();
   dlclose(image);
@@ -54,9 +55,9 @@ TEST(Life, NotifiersAreRegisteredAsThePluginComesUp) {
   Host host;
   Session session(host);
   ASSERT_EQ(session.loadPlugin(corvaneBundle()), "");
-  EXPECT_THAT(notifierNames(host), ElementsAre("AIPlugWrap Plugin Startup Notifier",
-                                               "AIPlugWrap Plugin Shutdown Notifier",
-                                               "AIPlugWrap Plugin Save Data Notifier"));
+  EXPECT_THAT(notifierNames(host),
+              ElementsAre("AIPlugWrap Plugin Startup Notifier", "AIPlugWrap Plugin Shutdown Notifier",
+                          "AIPlugWrap Plugin Save Data Notifier"));
   session.start();
   EXPECT_THAT(notifierNames(host),
               ElementsAre("AIPlugWrap Plugin Startup Notifier", "AIPlugWrap Plugin Shutdown Notifier",
@@ -160,7 +161,8 @@ TEST(Life, LoadFailuresNameFileAndReason) {
   const std::string bundles = CORVANE_TEST_BUNDLES;
   const std::vector<std::pair<std::string, std::string>> table{
       {"Missing", "there is no plug-in at " + bundles + "/Missing.bundle"},
-      {"NoEntry", "the plug-in's code " + bundles + "/NoEntry.bundle/Contents/Linux/NoEntry.so has no entry PluginMain"},
+      {"NoEntry",
+       "the plug-in's code " + bundles + "/NoEntry.bundle/Contents/Linux/NoEntry.so has no entry PluginMain"},
       {"Refuses", "the plug-in " + bundles + "/Refuses.bundle did not start: it answered 'NOPE'"},
       {"Throws", "the plug-in " + bundles + "/Throws.bundle did not start: it answered 'Excp'"}};
   for (const auto& [name, sentence] : table) {

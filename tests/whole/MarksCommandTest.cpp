@@ -37,8 +37,9 @@ void expectNear(const std::vector<std::pair<double, double>>& actual,
 std::string rectangleOnPage(int left, int bottom, int right, int top) {
   const auto text = [](int number) { return std::to_string(number); };
   return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"800pt\" height=\"800pt\" viewBox=\"0 0 800 800\">"
-         "<rect x=\"" + text(left) + "\" y=\"" + text(800 - top) + "\" width=\"" + text(right - left) +
-         "\" height=\"" + text(top - bottom) + "\"/></svg>";
+         "<rect x=\"" +
+         text(left) + "\" y=\"" + text(800 - top) + "\" width=\"" + text(right - left) + "\" height=\"" +
+         text(top - bottom) + "\"/></svg>";
 }
 
 TEST(MarksCommand, CornerMarksStandWhereTheRulesPutThem) {
@@ -49,20 +50,22 @@ TEST(MarksCommand, CornerMarksStandWhereTheRulesPutThem) {
   };
   const double d = 283.46;
   const std::vector<Row> table{
-      {"room for the distance", 100, 100, 400, 500,
+      {"room for the distance",
+       100,
+       100,
+       400,
+       500,
        {{90 + d, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}}},
-      {"middle of the bottom", 100, 100, 350, 500,
-       {{225, 90}, {90, 510}, {360, 510}, {360, 90}, {90, 90}}},
-      {"up the right side", 100, 100, 110, 600,
-       {{120, 90 + d}, {90, 610}, {120, 610}, {120, 90}, {90, 90}}},
-      {"a small square has no fifth", 100, 100, 120, 120,
-       {{90, 130}, {130, 130}, {130, 90}, {90, 90}}}};
+      {"middle of the bottom", 100, 100, 350, 500, {{225, 90}, {90, 510}, {360, 510}, {360, 90}, {90, 90}}},
+      {"up the right side", 100, 100, 110, 600, {{120, 90 + d}, {90, 610}, {120, 610}, {120, 90}, {90, 90}}},
+      {"a small square has no fifth", 100, 100, 120, 120, {{90, 130}, {130, 130}, {130, 90}, {90, 90}}}};
   const ScratchFolder scratch;
   for (const Row& row : table) {
     SCOPED_TRACE(row.name);
-    const std::string input = scratch.write("in.svg", rectangleOnPage(row.left, row.bottom, row.right, row.top));
-    const ProcessResult run = runHost({"marks", input, "-o", scratch.file("out.svg"), "--size", "10pt",
-                                       "--weight", "0", "--json"});
+    const std::string input =
+        scratch.write("in.svg", rectangleOnPage(row.left, row.bottom, row.right, row.top));
+    const ProcessResult run =
+        runHost({"marks", input, "-o", scratch.file("out.svg"), "--size", "10pt", "--weight", "0", "--json"});
     EXPECT_EQ(run.code, 0) << run.err;
     expectNear(centres(run), row.expected);
     EXPECT_EQ(json::parse(run.out)["not_placed"], 0);
@@ -72,8 +75,8 @@ TEST(MarksCommand, CornerMarksStandWhereTheRulesPutThem) {
 TEST(MarksCommand, ACrossIsBlackBarsOfItsSize) {
   const ScratchFolder scratch;
   const ProcessResult run =
-      runHost({"marks", scratch.write("in.svg", rectangleOnPage(100, 100, 400, 500)), "-o", scratch.file("out.svg"),
-               "--shape", "cross", "--size", "10pt", "--weight", "2pt", "--json"});
+      runHost({"marks", scratch.write("in.svg", rectangleOnPage(100, 100, 400, 500)), "-o",
+               scratch.file("out.svg"), "--shape", "cross", "--size", "10pt", "--weight", "2pt", "--json"});
   EXPECT_EQ(run.code, 0) << run.err;
   expectNear(centres(run), {{90 + 283.46, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}});
   EXPECT_THAT(readText(scratch.file("out.svg")), HasSubstr("ch:fill=\"cmyk(0 0 0 1)\""));
@@ -85,7 +88,8 @@ TEST(MarksCommand, ADrawingIsMarkedTheSameAloneAndAmongOthers) {
   const std::string sheet = kExamples + "/sticker-sheet.svg";
   const std::vector<std::string> options{"--placement", "auto", "--amount", "0.37"};
   std::vector<std::string> alone{"marks", sheet, "-o", scratch.file("alone.svg")};
-  std::vector<std::string> among{"marks", kExamples + "/two-cards-a4.svg", sheet, "--out-dir", scratch.file("out")};
+  std::vector<std::string> among{"marks", kExamples + "/two-cards-a4.svg", sheet, "--out-dir",
+                                 scratch.file("out")};
   alone.insert(alone.end(), options.begin(), options.end());
   among.insert(among.end(), options.begin(), options.end());
   runHost(alone);
@@ -116,8 +120,8 @@ TEST(MarksCommand, EveryOtherByteOfADrawingStaysAsItWas) {
     for (const char* placement : {"corner", "auto", "edge"}) {
       SCOPED_TRACE(std::string(name) + " " + placement);
       const std::string before = readText(kExamples + "/" + name);
-      const ProcessResult run = runHost({"marks", kExamples + "/" + name, "-o", scratch.file("out.svg"),
-                                         "--placement", placement});
+      const ProcessResult run =
+          runHost({"marks", kExamples + "/" + name, "-o", scratch.file("out.svg"), "--placement", placement});
       EXPECT_TRUE(run.code == 0 || run.code == 3) << run.err;
       const std::string after = readText(scratch.file("out.svg"));
       ASSERT_GT(after.size(), before.size());
@@ -126,8 +130,8 @@ TEST(MarksCommand, EveryOtherByteOfADrawingStaysAsItWas) {
       while (same < before.size() && before[same] == after[same]) ++same;
       EXPECT_TRUE(before.substr(same) == after.substr(after.size() - (before.size() - same)));
       // A second run replaces the marks, and takes the first away without a trace.
-      const ProcessResult again = runHost({"marks", scratch.file("out.svg"), "-o", scratch.file("again.svg"),
-                                           "--placement", placement});
+      const ProcessResult again = runHost(
+          {"marks", scratch.file("out.svg"), "-o", scratch.file("again.svg"), "--placement", placement});
       EXPECT_EQ(again.code, run.code);
       EXPECT_TRUE(readText(scratch.file("again.svg")) == after);
     }
@@ -149,16 +153,30 @@ TEST(MarksCommand, MarksWithoutRoomAreCountedSaidAndTold) {
 TEST(MarksCommand, ADrawingWithoutArtLosesItsOldMarks) {
   const ScratchFolder scratch;
   const std::string old =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" "
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+      "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" "
       "width=\"100mm\" height=\"100mm\" viewBox=\"0 0 100 100\">\n"
       "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Art\"/>\n"
       "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Regmark\"><circle cx=\"9\" cy=\"9\" r=\"3\"/></g>\n"
       "</svg>\n";
-  const ProcessResult run = runHost({"marks", scratch.write("in.svg", old), "-o", scratch.file("out.svg"), "--json"});
+  const ProcessResult run =
+      runHost({"marks", scratch.write("in.svg", old), "-o", scratch.file("out.svg"), "--json"});
   EXPECT_EQ(run.code, 3);
   EXPECT_TRUE(json::parse(run.out)["marks"].empty());
   EXPECT_THAT(run.err, HasSubstr("no marks were placed"));
   EXPECT_EQ(readText(scratch.file("out.svg")).find("Regmark"), std::string::npos);
+}
+
+TEST(MarksCommand, AnEmptyDrawingKeepsItsLayerUnderTheMarks) {
+  const ScratchFolder scratch;
+  const std::string empty = "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"300mm\" height=\"300mm\"/>";
+  const ProcessResult run =
+      runHost({"marks", "-", "-o", scratch.file("out.svg"), "--placement", "edge"}, empty);
+  EXPECT_EQ(run.code, 0) << run.err;
+  const json info = json::parse(runHost({"info", "--json", scratch.file("out.svg")}).out);
+  ASSERT_EQ(info["layers"].size(), 2U);
+  EXPECT_EQ(info["layers"][0]["title"], "Regmark");
+  EXPECT_EQ(info["layers"][1]["title"], "Layer 1");
 }
 
 TEST(MarksCommand, BadInputGivesOneSentenceAndNoFile) {
@@ -251,8 +269,8 @@ TEST(MarksCommand, OneBadDrawingOfManyStopsNoneOfTheOthers) {
   const ScratchFolder scratch;
   std::filesystem::create_directory(scratch.file("out"));
   const std::string bad = scratch.write("bad.svg", "no");
-  const ProcessResult run = runHost(
-      {"marks", bad, kExamples + "/sticker-sheet.svg", "--out-dir", scratch.file("out"), "--json"});
+  const ProcessResult run =
+      runHost({"marks", bad, kExamples + "/sticker-sheet.svg", "--out-dir", scratch.file("out"), "--json"});
   EXPECT_EQ(run.code, 1);
   EXPECT_EQ(json::parse(run.out)["marks"].size(), 5U);
   EXPECT_TRUE(scratch.has("out/sticker-sheet.svg"));
@@ -266,8 +284,8 @@ TEST(MarksCommand, RefusedCallsAreNamed) {
   EXPECT_EQ(run.code, 3);
   EXPECT_THAT(run.err, HasSubstr("refused AI Art Suite:NewArt, call 3"));
   EXPECT_EQ(json::parse(run.out)["marks"].size(), 2U) << "what was drawn before stays";
-  const ProcessResult withheld = runHost(
-      {"marks", kExamples + "/sticker-sheet.svg", "-o", scratch.file("no.svg"), "--refuse", "AI Layer Suite"});
+  const ProcessResult withheld = runHost({"marks", kExamples + "/sticker-sheet.svg", "-o",
+                                          scratch.file("no.svg"), "--refuse", "AI Layer Suite"});
   EXPECT_EQ(withheld.code, 1);
   EXPECT_FALSE(scratch.has("no.svg"));
 }

@@ -35,7 +35,9 @@ struct Case {
   int scale;
 };
 
-void PrintTo(const Case& row, std::ostream* stream) { *stream << row.name; }
+void PrintTo(const Case& row, std::ostream* stream) {
+  *stream << row.name;
+}
 
 // Few enough calls that every single one can be refused in turn: a large document scale makes the
 // samples of free space few.

@@ -18,7 +18,9 @@ namespace host {
 
 constexpr char kMarksKey[] = "Add brevia Register Marks...";
 
-inline std::filesystem::path corvaneBundle() { return std::filesystem::path(CORVANE_BIN) / "corvane.bundle"; }
+inline std::filesystem::path corvaneBundle() {
+  return std::filesystem::path(CORVANE_BIN) / "corvane.bundle";
+}
 inline std::filesystem::path testBundle(const std::string& name) {
   return std::filesystem::path(CORVANE_TEST_BUNDLES) / (name + ".bundle");
 }

@@ -37,6 +37,10 @@ TEST(HitIndex, OnePath) {
   const PathGeometry twice =
       straight({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}, {10, 0}, {10, 10}, {0, 10}}, true);
   const PathGeometry dot = straight({{5, 5}, {5, 5}}, false);
+  const PathGeometry bend = curved({{10, 0}, {10, 5.5}, {5.5, 10}, {0, 10}}, false);
+  const PathGeometry steps =
+      straight({{0, 60}, {0, 2e-4}, {0, 1e-4}, {0, 0}, {1e-5, 0}, {1e-4, 0}, {60, 0}}, false);
+  const PathGeometry speck = straight({{0, 0}, {1e-40, 0}, {1e-40, 1e-40}}, false);
   const AIPathStyle wide = stroked(4);
   const std::vector<Case> cases = {
       {"inside", square, filled(), {5, 5}, kFillHitRequest},
@@ -59,6 +63,18 @@ TEST(HitIndex, OnePath) {
       {"beyond the round end", open, stroked(4, kAIRoundCap), {-1.9, 1.9}, 0},
       {"long miter", spike, stroked(1, kAIButtCap, kAIMiterJoin, 20), {14, 1}, kStrokeHitRequest},
       {"long miter cut", spike, stroked(1, kAIButtCap, kAIMiterJoin, 9), {11, 1}, 0},
+      {"square to the curve at its end", bend, stroked(16), {17.9, 0.03}, kStrokeHitRequest},
+      {"and not beyond", bend, stroked(16), {17.9, -0.03}, 0},
+      {"nor on the inner side", bend, stroked(16), {2.1, -0.03}, 0},
+      {"but up to there", bend, stroked(16), {2.1, 0.03}, kStrokeHitRequest},
+      {"round corner of many tiny steps",
+       steps,
+       stroked(8, kAIButtCap, kAIRoundJoin),
+       {-2.8, -2.8},
+       kStrokeHitRequest},
+      {"beyond that corner", steps, stroked(8, kAIButtCap, kAIRoundJoin), {-2.9, -2.9}, 0},
+      {"all steps too small to tell apart", speck, stroked(8, kAIRoundCap), {2.8, 2.8}, kStrokeHitRequest},
+      {"beyond those", speck, stroked(8, kAIRoundCap), {2.9, 2.9}, 0},
       {"twice round, non-zero", twice, filled(), {5, 5}, kFillHitRequest},
       {"twice round, even-odd", twice, filled(true), {5, 5}, 0},
       {"round dot", dot, stroked(4, kAIRoundCap), {5, 6.9}, kStrokeHitRequest},
@@ -166,8 +182,9 @@ TEST(HitIndex, ClipsCutOff) {
   sheet.change(none, [](Art& art) { art.clip = std::make_shared<Clip>(); });
   const HitIndex index(sheet.document);
   const std::vector<std::pair<AIRealPoint, bool>> cases = {
-      {{5, 5}, true},  {{3, 3}, false},    {{1, 0.5}, false}, {{1, 1.5}, true}, {{7, 5}, false},
-      {{22, 3}, true}, {{25.5, 3}, false}, {{-1, 5}, false},  {{5, 6.5}, false}};
+      {{5, 5}, true},     {{3, 3}, false},    {{1, 0.5}, false},  {{1, 1.5}, true},     {{7, 5}, false},
+      {{22, 3}, true},    {{5.99, 5}, true},  {{6.01, 5}, false}, {{1.5, 0.99}, false}, {{1.99, 3}, true},
+      {{2.01, 3}, false}, {{25.5, 3}, false}, {{-1, 5}, false},   {{5, 6.5}, false}};
   for (const auto& [point, hit] : cases) {
     EXPECT_EQ(index.any(point, kAllHitRequest), hit) << point.x << " " << point.y;
     EXPECT_EQ(index.topmost(point, kAllHitRequest), hit ? path : 0) << point.x << " " << point.y;
@@ -255,11 +272,11 @@ class RandomDrawing {
 
 TEST(HitIndex, AgreesWithTheSlowWay) {
   constexpr double kMargin = 0.02;
-  constexpr int kProbes = 400;
+  constexpr int kProbes = 300;
   const std::int32_t requests[] = {kAllHitRequest, kFillHitRequest, kStrokeHitRequest, kBodyHitRequest, 3};
   int certain = 0, hits = 0;
-  for (unsigned seed = 1; seed <= 12; ++seed) {
-    RandomDrawing drawing(seed, seed % 3 == 0 ? 5 : seed % 3 == 1 ? 1 : 0.1);
+  for (unsigned seed = 1; seed <= 8; ++seed) {
+    RandomDrawing drawing(seed, seed % 3 == 0 ? 3 : seed % 3 == 1 ? 1 : 0.1);
     const HitIndex index(drawing.sheet.document);
     for (int i = 0; i < kProbes; ++i) {
       const AIRealPoint point = drawing.probe(i);
@@ -274,7 +291,7 @@ TEST(HitIndex, AgreesWithTheSlowWay) {
           << seed << ": " << point.x << ", " << point.y << " " << request;
     }
   }
-  EXPECT_GT(certain, 12 * kProbes / 2);
+  EXPECT_GT(certain, 8 * kProbes / 2);
   EXPECT_GT(hits, certain / 5);
 }
 
@@ -300,7 +317,7 @@ class Squares {
   template <typename Check>
   void probe(Check check) const {
     for (int i = 0; i < 3 * kRow * 4; ++i) {
-      for (int k = 0; k < 24; ++k) {
+      for (int k = 0; k < 8; ++k) {
         const double x = (i + 0.5) / 4, y = (k * 37 % (3 * kRow)) + 0.6;
         check(AIRealPoint{offset_ + x, offset_ + y}, std::fmod(x, 3) < 2 && std::fmod(y, 3) < 2);
       }
@@ -340,8 +357,8 @@ TEST(HitIndex, StraysAndGiantsLeaveTheCrowdAlone) {
       {"a giant's outline", 0, {box(-far, -far, far, far)}, stroked(10), false},
       {"under a giant", 0, {box(-far, -far, far, far)}, filled(), true},
       {"without area", 0, {straight({{0, 0}, {0, 500}}, true), straight({{1, 1}}, true)}, filled(), false},
-      {"a stack", 0, std::vector<PathGeometry>(5000, box(-1, -1, 200, 200)), filled(), true},
-      {"a stack of outlines", 0, std::vector<PathGeometry>(3000, box(-1, -1, 200, 200)), stroked(0.5), false},
+      {"a stack", 0, std::vector<PathGeometry>(2000, box(-1, -1, 200, 200)), filled(), true},
+      {"a stack of outlines", 0, std::vector<PathGeometry>(1000, box(-1, -1, 200, 200)), stroked(0.5), false},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);

@@ -7,7 +7,7 @@ namespace host::testing {
 
 namespace {
 
-constexpr int kSamples = 160;  // a curve
+constexpr int kSamples = 120;  // a curve
 
 AIRealPoint mix(AIRealPoint a, AIRealPoint b, double t) {
   return {a.x + (b.x - a.x) * t, a.y + (b.y - a.y) * t};

@@ -1,2 +1,4 @@
 // Has code, but not the entry that a plug-in needs.
-extern "C" __attribute__((visibility("default"))) int SomethingElse() { return 0; }
+extern "C" __attribute__((visibility("default"))) int SomethingElse() {
+  return 0;
+}

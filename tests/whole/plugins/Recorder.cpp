@@ -24,7 +24,8 @@ void listen(const SPMessageData& data) {
 
 extern "C" {
 
-__attribute__((visibility("default"))) SPErr PluginMain(const char* caller, const char* selector, void* message) {
+__attribute__((visibility("default"))) SPErr PluginMain(const char* caller, const char* selector,
+                                                        void* message) {
   recorded += std::string(caller) + " | " + selector + "\n";
   if (std::string(selector) == kSPInterfaceStartupSelector) listen(*static_cast<SPMessageData*>(message));
   return kSPNoError;
