@@ -52,8 +52,9 @@ std::vector<host::PathGeometry> curvedShapes(std::size_t count, double pageWidth
   const double radius = 0.345 * std::min(dx, dy);
   std::vector<host::PathGeometry> shapes;
   for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t row = i / columns;
     const double x = (static_cast<double>(i % columns) + 0.45 + 0.1 * fraction(random)) * dx;
-    const double y = (static_cast<double>(i / columns) + 0.45 + 0.1 * fraction(random)) * dy;
+    const double y = (static_cast<double>(row) + 0.45 + 0.1 * fraction(random)) * dy;
     shapes.push_back(roundShape({x, y}, radius, random));
   }
   return shapes;

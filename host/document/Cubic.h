@@ -29,7 +29,7 @@ AIRealPoint endTangent(const Cubic& curve);
 
 // Parameters in ascending order; none at 0 and 1 themselves.
 struct Parameters {
-  double t[8];
+  double t[8] = {};
   std::size_t count = 0;
 };
 // Where the curve may turn back in x or in y.

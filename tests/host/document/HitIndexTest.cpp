@@ -214,7 +214,7 @@ class RandomDrawing {
   // All over the page, or where the edges are.
   AIRealPoint probe(int i) {
     if (i % 2 == 0) return {number(-20, 120) * scale_, number(-20, 120) * scale_};
-    const AIRealPoint on = oracle.somewhereOn(static_cast<std::size_t>(i * 7919));
+    const AIRealPoint on = oracle.somewhereOn(static_cast<std::size_t>(i) * 7919);
     return {on.x + number(-6, 6) * scale_, on.y + number(-6, 6) * scale_};
   }
 
