@@ -68,7 +68,7 @@ std::optional<SvgDeclaration> SvgDeclarationReader::next() {
     at_ = end + 1;
     const std::size_t colon = whole.find(':');
     if (colon == std::string_view::npos) continue;
-    const auto property = propertyNamed(withoutCommentsAround(whole.substr(0, colon)));
+    const auto property = propertyNamedInAnyCase(withoutCommentsAround(whole.substr(0, colon)));
     if (!property) continue;
     std::string_view value = withoutCommentsAround(whole.substr(colon + 1));
     const bool important = takeImportant(value);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "SvgScanner.h"
+
 namespace host {
 namespace {
 
@@ -63,6 +65,15 @@ std::string_view nameOf(SvgProperty property) {
 std::optional<SvgProperty> propertyNamed(std::string_view name) {
   const auto* found = std::lower_bound(std::begin(kNames), std::end(kNames), name);
   if (found == std::end(kNames) || *found != name) return std::nullopt;
+  return static_cast<SvgProperty>(found - std::begin(kNames));
+}
+
+std::optional<SvgProperty> propertyNamedInAnyCase(std::string_view name) {
+  const auto exact = propertyNamed(name);
+  if (exact) return exact;
+  const auto* found = std::find_if(std::begin(kNames), std::end(kNames),
+                                   [&](std::string_view known) { return equalsIgnoringCase(known, name); });
+  if (found == std::end(kNames)) return std::nullopt;
   return static_cast<SvgProperty>(found - std::begin(kNames));
 }
 

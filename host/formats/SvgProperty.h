@@ -65,8 +65,10 @@ constexpr std::size_t indexOf(SvgProperty property) {
   return static_cast<std::size_t>(property);
 }
 std::string_view nameOf(SvgProperty property);
-// Nullopt for a property that doesn't matter here.
+// Nullopt for a property that doesn't matter here. Attributes are called exactly so; in style sheets the
+// case of letters doesn't matter.
 std::optional<SvgProperty> propertyNamed(std::string_view name);
+std::optional<SvgProperty> propertyNamedInAnyCase(std::string_view name);
 // May an attribute set it? The shorthands and some newer properties live in style sheets only.
 bool isPresentationAttribute(SvgProperty property);
 

@@ -24,6 +24,19 @@ TEST(CutOption, StartsWithSixMillimetreDiscsOnTheCorners) {
   EXPECT_EQ(option.strokeColor.kind, kNoneColor);
 }
 
+TEST(CutOption, OffersBlackDiscsAndBlackBars) {
+  Drawing drawing;
+  CutOption option;
+  option.shape = kCrossRegmark;
+  option.ResetColors();
+  EXPECT_EQ(option.fillColor.kind, kNoneColor);
+  EXPECT_EQ(option.strokeColor.c.f.black, 1.0);
+  option.shape = kRoundRegmark;
+  option.ResetColors();
+  EXPECT_EQ(option.fillColor.c.f.black, 1.0);
+  EXPECT_EQ(option.strokeColor.kind, kNoneColor);
+}
+
 struct ScaleCase {
   double artWidth, artHeight;  // 0: no art
   double documentScale;
