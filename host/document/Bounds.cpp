@@ -25,6 +25,20 @@ void includePath(AIRealRect& rect, const PathGeometry& path, const AIRealMatrix&
   }
 }
 
+// Of all points and handles, as they are.
+AIRealRect controlBounds(const PathGeometry& path) {
+  double left = HUGE_VAL, bottom = HUGE_VAL, right = -HUGE_VAL, top = -HUGE_VAL;
+  for (const AIPathSegment& segment : path.segments) {
+    const auto [lowX, highX] = std::minmax({segment.p.x, segment.in.x, segment.out.x});
+    const auto [lowY, highY] = std::minmax({segment.p.y, segment.in.y, segment.out.y});
+    left = std::min(left, lowX);
+    right = std::max(right, highX);
+    bottom = std::min(bottom, lowY);
+    top = std::max(top, highY);
+  }
+  return {left, top, right, bottom};
+}
+
 AIRealRect clipBounds(const Clip& clip, const AIRealMatrix& matrix) {
   AIRealRect result{-HUGE_VAL, HUGE_VAL, HUGE_VAL, -HUGE_VAL};
   for (const Clip* current = &clip; current != nullptr; current = current->further.get()) {
@@ -36,6 +50,14 @@ AIRealRect clipBounds(const Clip& clip, const AIRealMatrix& matrix) {
   }
   return result;
 }
+
+// A path that counts, with where it can lie at most.
+struct LaidPath {
+  const PathGeometry* path;
+  const AIPathStyle* stroke;  // null if no stroke counts
+  AIRealRect limit;           // what clips leave
+  AIRealRect rough;           // holds all of it
+};
 
 // Walks an art and all below it. What it has found already spares a closer look at what lies inside that.
 class BoundsFinder {
@@ -66,6 +88,7 @@ class BoundsFinder {
       if (id == top) break;
       id = document_.art(id)->below;
     }
+    includePaths();
     return found_;
   }
 
@@ -84,7 +107,7 @@ class BoundsFinder {
     if (!body.parts.empty() || isEmpty(body.box)) return;
     AIRealRect box = kEmptyRect;
     for (const double x : {body.box.left, body.box.right}) {
-      for (const double y : {body.box.bottom, body.box.top}) include(box, apply(matrix_, {x, y}));
+      for (const double y : {body.box.bottom, body.box.top}) host::include(box, apply(matrix_, {x, y}));
     }
     found_ = unite(found_, intersect(box, limit));
   }
@@ -92,22 +115,41 @@ class BoundsFinder {
   void addPath(const PathGeometry& path, const AIPathStyle* style, const AIRealRect& limit) {
     const bool stroked = style != nullptr && paintsStroke(*style);
     const bool painted = stroked || (style != nullptr && paintsFill(*style));
-    if (!painted && (flags_ & kExcludeUnpaintedObjectBounds) != 0) return;
+    if (path.segments.empty() || (!painted && (flags_ & kExcludeUnpaintedObjectBounds) != 0)) return;
     const bool counts = stroked && (flags_ & kNoStrokeBounds) == 0;
-    const StrokePen pen = counts ? strokePen(style->stroke) : StrokePen{};
-    if (contains(found_, intersect(roughBounds(path, pen), limit))) return;
-    AIRealRect rect = kEmptyRect;
-    includePath(rect, path, matrix_);
-    if (counts) includeStroke(rect, path, pen, matrix_);
-    found_ = unite(found_, intersect(rect, limit));
+    const AIRealRect rough = roughBounds(path, counts ? strokePen(style->stroke) : StrokePen{});
+    paths_.push_back({&path, counts ? style : nullptr, limit, intersect(rough, limit)});
   }
 
-  // Holds the path and its stroke.
-  AIRealRect roughBounds(const PathGeometry& path, const StrokePen& pen) const {
+  // What reaches furthest comes first: hardly another path sticks out of it then.
+  void includePaths() {
+    if (paths_.empty()) return;
+    const auto furthest = [this](auto reach) {
+      include(*std::max_element(paths_.begin(), paths_.end(), [&reach](const auto& a, const auto& b) {
+        return reach(a.rough) < reach(b.rough);
+      }));
+    };
+    furthest([](const AIRealRect& rect) { return rect.top; });
+    furthest([](const AIRealRect& rect) { return -rect.bottom; });
+    furthest([](const AIRealRect& rect) { return rect.right; });
+    furthest([](const AIRealRect& rect) { return -rect.left; });
+    for (const LaidPath& path : paths_) include(path);
+  }
+
+  void include(const LaidPath& laid) {
+    if (contains(found_, laid.rough)) return;
     AIRealRect rect = kEmptyRect;
-    for (const AIPathSegment& segment : path.segments) {
-      for (const AIRealPoint point : {segment.p, segment.in, segment.out})
-        include(rect, apply(matrix_, point));
+    includePath(rect, *laid.path, matrix_);
+    if (laid.stroke != nullptr) includeStroke(rect, *laid.path, strokePen(laid.stroke->stroke), matrix_);
+    found_ = unite(found_, intersect(rect, laid.limit));
+  }
+
+  // Holds the path and its stroke. Asked for every path, most of which it spares the closer look.
+  AIRealRect roughBounds(const PathGeometry& path, const StrokePen& pen) const {
+    const AIRealRect own = controlBounds(path);
+    AIRealRect rect = kEmptyRect;
+    for (const double x : {own.left, own.right}) {
+      for (const double y : {own.bottom, own.top}) host::include(rect, apply(matrix_, {x, y}));
     }
     const double miter = pen.join == kAIMiterJoin ? pen.miterLimit : 1;
     return inflated(rect, pen.half * std::max(miter, 1.5) * widening_ * (1 + 1e-9));
@@ -117,6 +159,7 @@ class BoundsFinder {
   const AIRealMatrix& matrix_;
   std::int32_t flags_;
   double widening_;
+  std::vector<LaidPath> paths_;
   AIRealRect found_ = kEmptyRect;
 };
 

@@ -42,6 +42,7 @@ struct Place {
 
 struct Document::Step {
   std::string name;
+  std::uint64_t mark = 0;  // no two steps of a document share one
   TableChanges<Art> art;
   TableChanges<Layer> layers;
   TableChanges<Swatch> swatches;
@@ -343,6 +344,7 @@ void Document::closeOpenStep(std::string name) {
   step.customColors = customColors_.takeChanges();
   step.state = state_.takeChanges();
   if (step.empty()) return;
+  step.mark = ++stepsMade_;
   undone_.clear();
   done_.push_back(std::move(step));
 }
@@ -400,6 +402,10 @@ std::string Document::redoName() const {
 
 std::size_t Document::undoCount() const {
   return done_.size();
+}
+
+std::uint64_t Document::stateMark() const {
+  return done_.empty() ? 0 : done_.back().mark;
 }
 
 }  // namespace host

@@ -90,6 +90,8 @@ class Document {
   std::string undoName() const;  // empty if there is nothing to undo
   std::string redoName() const;
   std::size_t undoCount() const;
+  // Names what the document holds: different after any step, and the same again when it was undone.
+  std::uint64_t stateMark() const;
   // From here on changes are kept for undo. A reader fills the document before.
   void startRecording();
 
@@ -115,6 +117,7 @@ class Document {
   std::vector<PaintServer> paintServers_;
   std::vector<Step> done_;
   std::vector<Step> undone_;
+  std::uint64_t stepsMade_ = 0;
   std::string stepName_;
   int stepDepth_ = 0;
 };
