@@ -2,8 +2,9 @@
 
 corvane_packages=(
   g++ cmake ninja-build pkg-config ccache mold
-  libexpat1-dev librsvg2-dev qtbase5-dev libqt5gui5 libcli11-dev nlohmann-json3-dev
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libexpat1-dev librsvg2-dev liblcms2-dev libboost-dev libcli11-dev nlohmann-json3-dev
+  qtbase5-dev libqt5gui5 libqt5svg5-dev qttranslations5-l10n
+  libgtest-dev libgmock-dev libbenchmark-dev gettext libgettextpo-dev
   fonts-dejavu-core xvfb xauth
 )
 

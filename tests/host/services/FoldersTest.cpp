@@ -2,34 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include "Variable.h"
 
 namespace {
 
-// Sets a variable and puts the former value back.
-class Variable {
- public:
-  Variable(const char* name, const char* value) : name_(name) {
-    const char* former = std::getenv(name);
-    had_ = former != nullptr;
-    if (had_) former_ = former;
-    setenv(name, value, 1);
-  }
-  Variable(const Variable&) = delete;
-  Variable& operator=(const Variable&) = delete;
-  ~Variable() {
-    if (had_) {
-      setenv(name_, former_.c_str(), 1);
-    } else {
-      unsetenv(name_);
-    }
-  }
-
- private:
-  const char* name_;
-  std::string former_;
-  bool had_;
-};
+using host::Variable;
 
 TEST(Folders, FollowTheBaseDirectories) {
   const Variable home("HOME", "/home/maria");
