@@ -1,0 +1,8 @@
+// Storing under a key.
+#pragma once
+
+#include "RDB_Database.h"
+
+// The node of `key`, made with all above it where they are missing. `key` is used up (RDB_KeySplitter).
+// Throws std::bad_alloc.
+RDB_Node& RDB_MakeNode(RDB_Database& db, char* key);
