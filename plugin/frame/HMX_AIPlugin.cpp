@@ -19,6 +19,7 @@
 #include "SPPlugins.h"
 #include "SaveUserDataNotifier.h"
 #include "SuiteLevel.h"
+#include "TextModules.h"
 
 namespace {
 
@@ -56,6 +57,7 @@ HMX_AIPlugin::HMX_AIPlugin(const SPMessageData& message)
 }
 
 HMX_AIPlugin::~HMX_AIPlugin() {
+  FreeTextState();
   DestroyHandlers();  // already gone after a shutdown message
 }
 

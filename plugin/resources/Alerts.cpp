@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <cstring>
 
-#include "AIError.h"
 #include "AIUser.h"
+#include "CopyUTF8.h"
 #include "IAIUnicodeString.h"
 #include "Localize.h"
 #include "UserInteraction.h"
@@ -23,14 +23,13 @@ using ShowText = AIErr (*AIUserSuite::*)(AIUnicodeStringHandle text);
   if (std::strchr(format, '%') == nullptr) {
     text = Localize(format);
   } else {
+    char whole[kAlertSize];
     // Both callers have started the list. NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized)
-    std::vsnprintf(filled, sizeof filled, Localize(format), arguments);
+    std::vsnprintf(whole, sizeof whole, Localize(format), arguments);
+    CopyUTF8(filled, whole, sizeof filled);  // leaves out a character that was cut
   }
-  try {
-    const ai::UnicodeString shown(text);
-    (sAIUser->*show)(shown.handle());
-  } catch (const ai::Error&) {  // NOLINT(bugprone-empty-catch): without text there is nothing to show
-  }
+  const ai::UnicodeString shown(text);
+  (sAIUser->*show)(shown.handle());
 }
 
 }  // namespace

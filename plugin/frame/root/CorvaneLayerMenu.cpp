@@ -2,11 +2,13 @@
 
 #include "CutLayerDialog.h"
 #include "CutPlugin.h"
+#include "TextKey.h"
 
 namespace Vandrell::Corvane {
 
 CorvaneLayerMenu::CorvaneLayerMenu(CutPlugin* owner, const char* group)
-    : HMX_AIMenu(owner, group, "Create Line Type Layers", kMenuItemWantsUpdateOption), cutPlugin(*owner) {}
+    : HMX_AIMenu(owner, group, TextKey("Create Line Type Layers"), kMenuItemWantsUpdateOption),
+      cutPlugin(*owner) {}
 
 AIErr CorvaneLayerMenu::Go(const AIMenuMessage& /*message*/) {
   CutLayerDialog* const palette = cutPlugin.GetLayerDialog();

@@ -7,6 +7,7 @@
 #include "CutPlugin.h"
 #include "CutTool.h"
 #include "PlaceRegmarks.h"
+#include "TextKey.h"
 
 namespace Vandrell::Corvane {
 namespace {
@@ -20,7 +21,8 @@ void StoreInteger(const char* key, std::int32_t value) {
 }  // namespace
 
 CorvaneMenu::CorvaneMenu(CutPlugin* owner, const char* group)
-    : HMX_AIMenu(owner, group, "Add brevia Register Marks...", kMenuItemNoOptions), cutPlugin(*owner) {
+    : HMX_AIMenu(owner, group, TextKey("Add brevia Register Marks..."), kMenuItemNoOptions),
+      cutPlugin(*owner) {
   sAIMenu->UpdateMenuItemAutomatically(item, kAutoEnableMenuItemAction, -1, 0, -1, 0, kIfOpenDocument, 0);
 }
 

@@ -6,6 +6,7 @@
 #include "QtManager.h"
 #include "RestoreMarkTool.h"
 #include "SelectedLineTypesUpdateNotifier.h"
+#include "TextModules.h"
 #include "UIColorSchemeNotifier.h"
 
 namespace Vandrell::Corvane {
@@ -29,6 +30,7 @@ AIErr CutPlugin::Start(const SPMessageData& message) {
   if (const AIErr error = suiteManager->Acquire(); error != kNoErr) return error;
   RVADMQtManager::QtManager::SetSPBasicSuite(message.basic);
   if (const AIErr error = LocateResources(pluginRef, resourcePath); error != kNoErr) return error;
+  RegisterTextModule("corvane");
   sCutPluginInstance = this;
   MakeMenus();
   return kNoErr;

@@ -5,16 +5,17 @@
 #include "CorvanePreferencesMenu.h"
 #include "CutPlugin.h"
 #include "EnsureSubmenu.h"
+#include "TextKey.h"
 
 namespace Vandrell::Corvane {
 namespace {
 
 // Keys of groups differ in trailing blanks only where they stand in different menus under one name.
-constexpr char kProductsGroup[] = "Vandrell";
-constexpr char kPluginGroup[] = "corvane ";
-constexpr char kPreferencesGroup[] = "Vandrell ";
-constexpr char kHelpGroup[] = "Vandrell  ";
-constexpr char kHelpItemsGroup[] = "VandrellHelpCustom";
+constexpr const char* kProductsGroup = TextKey("Vandrell");
+constexpr const char* kPluginGroup = TextKey("corvane ");
+constexpr const char* kPreferencesGroup = TextKey("Vandrell ");
+constexpr const char* kHelpGroup = TextKey("Vandrell  ");
+constexpr const char* kHelpItemsGroup = "VandrellHelpCustom";
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 // Text for the user and the place of the plug-in's files.
 #include <gmock/gmock.h>
 
+#include "AIError.h"
 #include "Alerts.h"
 #include "CopyUTF8.h"
 #include "FilePathText.h"
@@ -49,12 +50,14 @@ TEST_F(Resources, AlertsShowSentencesAndFilledFormats) {
   ErrorAlert("Not a format.");
   MessageAlert("%d of %s", 3, "them");
   MessageAlert("%s", std::string(600, 'x').c_str());
-  ASSERT_EQ(host.alerts().size(), 3U);
+  MessageAlert("%s\xC3\xA9", std::string(510, 'x').c_str());
+  ASSERT_EQ(host.alerts().size(), 4U);
   EXPECT_EQ(host.alerts()[0].kind, host::AlertKind::Error);
   EXPECT_EQ(host.alerts()[0].text, "Not a format.");
   EXPECT_EQ(host.alerts()[1].kind, host::AlertKind::Message);
   EXPECT_EQ(host.alerts()[1].text, "3 of them");
   EXPECT_EQ(host.alerts()[2].text, std::string(511, 'x'));
+  EXPECT_EQ(host.alerts()[3].text, std::string(510, 'x')) << "half a character is none";
 }
 
 TEST_F(Resources, NothingIsShownToWhomMustNotBeAsked) {
@@ -66,9 +69,9 @@ TEST_F(Resources, NothingIsShownToWhomMustNotBeAsked) {
   EXPECT_TRUE(IsUserInteractionAllowed());
 }
 
-TEST_F(Resources, AnAlertWithoutTextIsDropped) {
+TEST_F(Resources, ARefusedAlertTextIsThrown) {
   ASSERT_EQ(host.refusal().add("AI Unicode String Suite:New"), "");
-  ErrorAlert("Not a format.");
+  EXPECT_THROW(ErrorAlert("Not a format."), ai::Error);
   EXPECT_TRUE(host.alerts().empty());
 }
 
@@ -85,6 +88,25 @@ TEST_F(Resources, ABundlePathMustFit) {
     const AIErr error = LocateResources(host.addPlugin("long", bundle).handle, path);
     EXPECT_EQ(error, length == kLongestBundlePath ? kNoErr : ErrorCode("SMAL"));
     EXPECT_EQ(path, error == kNoErr ? bundle + "/Contents/Resources" : "untouched");
+  }
+}
+
+TEST_F(Resources, TheirPathIsInNormalForm) {
+  const std::string decomposed = "e\xCC\x81", composed = "\xC3\xA9";
+  const std::string growing = "\xEF\xAC\x9D";  // becomes two characters of four bytes
+  const struct {
+    std::string bundle;
+    AIErr error;
+    std::string path;
+  } table[] = {{"/caf" + decomposed, kNoErr, "/caf" + composed + "/Contents/Resources"},
+               {"/caf" + decomposed + "/", kNoErr, "/caf" + composed + "/Contents/Resources"},
+               {"/" + growing + std::string(250, 'b'), kNoErr,
+                "/\xD7\x99\xD6\xB4" + std::string(250, 'b') + "/Contents/Resources"},
+               {"/" + growing + std::string(251, 'b'), ErrorCode("fGCS"), "untouched"}};
+  for (const auto& row : table) {
+    char path[kResourcePathSize] = "untouched";
+    EXPECT_EQ(LocateResources(host.addPlugin("p", row.bundle).handle, path), row.error) << row.bundle;
+    EXPECT_EQ(path, row.path);
   }
 }
 

@@ -1,0 +1,117 @@
+// Which file answers for which text.
+#include "Localize.h"
+#include "TextBundle.h"
+
+#include "FindTextResource.h"
+#include "RV_LOCALE.h"
+
+namespace {
+
+using TextModules = TextBundle;
+
+TEST_F(TextModules, LaterModulesAndLocalisedFilesComeFirst) {
+  Write("rv.asc", "everywhere:rv in-product:rv base-german:rv");
+  Write("de.lproj/rv.asc", "base-german:rv-de both-german:rv-de");
+  Write("corvane.asc", "in-product:corvane product-german:corvane both-german:corvane");
+  Write("de.lproj/corvane.asc", "product-german:corvane-de");
+  Start("de-AT");
+  EXPECT_STREQ(Localize("everywhere"), "rv");
+  EXPECT_STREQ(Localize("in-product"), "corvane");
+  EXPECT_STREQ(Localize("base-german"), "rv-de");
+  EXPECT_STREQ(Localize("product-german"), "corvane-de");
+  EXPECT_STREQ(Localize("both-german"), "corvane") << "a later module overrides an earlier one's language";
+  EXPECT_STREQ(Localize("nowhere"), "nowhere");
+}
+
+TEST_F(TextModules, TheUsersLanguageChoosesTheFile) {
+  Write("corvane.asc", "word:en");
+  for (const char* language : {"de", "pt_BR", "pt_PT"}) {
+    Write(std::string(language) + ".lproj/corvane.asc", std::string("word:") + language);
+  }
+  const std::pair<const char*, const char*> table[] = {
+      {"de", "de"},         {"de_CH.UTF-8", "de"}, {"pt", "pt_BR"}, {"pt-BR", "pt_BR"}, {"pt_PT", "pt_PT"},
+      {"pt-BR-x", "pt_BR"}, {"fr:de", "de"},       {"en:de", "en"}, {"fr", "en"},       {"", "en"},
+      {"C", "en"}};
+  for (const auto& [language, word] : table) {
+    FreeTextState();
+    Start(language);
+    EXPECT_STREQ(Localize("word"), word) << language;
+    EXPECT_STREQ(std::getenv("RVLANG"),
+                 std::string(language) == "pt" || std::string(language) == "pt-BR" ? "pt_BR" : "Bundle");
+  }
+}
+
+TEST_F(TextModules, AreReadOnce) {
+  Write("corvane.asc", "word:first");
+  Start();
+  Write("corvane.asc", "word:second");
+  RegisterTextModule("CORVANE");
+  SetLanguage("Bundle");
+  SetLanguage(nullptr);
+  EXPECT_STREQ(Localize("word"), "first");
+  SetLanguage("de");
+  EXPECT_STREQ(Localize("word"), "second");
+}
+
+TEST_F(TextModules, ComeBackWithoutTheRegisteredOnesAfterTheyWereFreed) {
+  Write("rv.asc", "base:text");
+  Write("corvane.asc", "product:text");
+  Start();
+  FreeTextState();
+  EXPECT_STREQ(Localize("base"), "text");
+  EXPECT_STREQ(Localize("product"), "product");
+}
+
+TEST_F(TextModules, WithoutALanguageTheLocalisationCIsAsked) {
+  Write("C.lproj/rv.asc", "word:c");
+  Write("de.lproj/rv.asc", "word:de other:de");
+  setenv("LANGUAGE", "de", 1);
+  setenv("LOCALE_PATH", resources.c_str(), 1);
+  EXPECT_STREQ(Localize("word"), "c");
+  EXPECT_STREQ(Localize("other"), "other");
+  EXPECT_EQ(rvLocale, &kLocaleMethods);
+  EXPECT_STREQ(rvLocale->name, "RV_LOCALE");
+}
+
+TEST_F(TextModules, AFaultIsToldAndLeavesWhatStandsBeforeIt) {
+  Write("corvane.asc", "good : text\nbad text\n");
+  testing::internal::CaptureStderr();
+  Start();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "No ':' separator detected in file " + (resources / "corvane.asc").string() + " at line 2.\n");
+  EXPECT_STREQ(Localize("good"), "text");
+}
+
+TEST_F(TextModules, ResourcesAreFoundByTheirOrder) {
+  const auto found = [this](const char* language, const char* name) {
+    const auto path = FindTextResource(language, name, ".asc");
+    return path ? std::filesystem::path(*path).lexically_relative(resources).string() : "";
+  };
+  setenv("LANGUAGE", "fr", 1);
+  EXPECT_FALSE(FindTextResource("de", "name", ".asc")) << "without LOCALE_PATH there is nothing";
+  EXPECT_FALSE(FindTextResource(nullptr, "name", ".asc"));
+  setenv("LOCALE_PATH", resources.c_str(), 1);
+  Write("fr.lproj/name", "");
+  EXPECT_EQ(found("de", "name"), "fr.lproj/name") << "without a localisation the bundle chooses";
+  Write("de.lproj/name", "");
+  EXPECT_EQ(found("de", "name"), "de.lproj/name");
+  Write("de.lproj/NAME.ASC", "");
+  EXPECT_EQ(found("de", "Name"), "de.lproj/NAME.ASC") << "capitals before small letters";
+  Write("de.lproj/Name", "");
+  EXPECT_EQ(found("de", "Name"), "de.lproj/Name") << "the name as it is before all others";
+  Write("de.lproj/Name.ASC", "");
+  EXPECT_EQ(found("de", "Name"), "de.lproj/Name.ASC");
+  Write("de.lproj/Name.asc", "");
+  EXPECT_EQ(found("de", "Name"), "de.lproj/Name.asc");
+  EXPECT_EQ(found("Bundle", "name"), "fr.lproj/name");
+  EXPECT_EQ(found("de", "other"), "");
+
+  EXPECT_EQ(found(nullptr, "anything"), "anything.asc");
+  EXPECT_EQ(FindTextResource(nullptr, "a", "asc"), resources.string() + "/a.asc");
+  EXPECT_FALSE(FindTextResource(nullptr, "a", ""));
+  EXPECT_FALSE(FindTextResource(nullptr, "a", nullptr));
+  setenv("LOCALE_PATH", (folder / "Demo.bundle").c_str(), 1);
+  EXPECT_FALSE(FindTextResource("de", "Name", ".asc")) << "no bundle around this folder";
+}
+
+}  // namespace
