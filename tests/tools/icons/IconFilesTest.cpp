@@ -1,0 +1,106 @@
+#include <cairo.h>
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <map>
+
+#include "IconFiles.h"
+#include "Raster.h"
+#include "Scratch.h"
+
+namespace icons {
+namespace {
+
+constexpr char kInkSquare[] =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 16 16"><path d="M4 4h8v8H4z" fill="currentColor"/></svg>)";
+
+struct Picture {
+  int width, height;
+  std::uint32_t middle, corner;  // alpha, red, green, blue from the highest byte down
+};
+
+Picture pictureIn(const std::filesystem::path& file) {
+  const SurfacePointer surface(cairo_image_surface_create_from_png(file.c_str()));
+  EXPECT_EQ(cairo_surface_status(surface.get()), CAIRO_STATUS_SUCCESS) << file;
+  const int width = cairo_image_surface_get_width(surface.get());
+  const int height = cairo_image_surface_get_height(surface.get());
+  const unsigned char* bytes = cairo_image_surface_get_data(surface.get());
+  if (bytes == nullptr) return {0, 0, 0, 0};
+  const int stride = cairo_image_surface_get_stride(surface.get());
+  const auto at = [&](int x, int y) {
+    std::uint32_t pixel = 0;
+    std::memcpy(&pixel, bytes + y * stride + x * 4, sizeof pixel);
+    return pixel;
+  };
+  return {width, height, at(width / 2, height / 2), at(0, 0)};
+}
+
+TEST(IconFiles, EachVersionIsDrawnInItsInkAndListedByItsId) {
+  const Scratch scratch;
+  scratch.write("square.svg", kInkSquare);
+  scratch.write("mark.svg", kInkSquare);
+  scratch.write("icons.txt", "16041 square.svg 16 themed\r\n\n  # a remark\n25000 mark.svg 16 plain");
+  const Outcome outcome = runOn(scratch);
+  ASSERT_EQ(outcome.code, 0) << outcome.errors;
+
+  EXPECT_EQ(
+      scratch.read("out/txt/IDToFile.txt"),
+      "16041.PNG square.png\n17041.PNG square-light.png\n18041.PNG square-dark.png\n25000.SVG mark.svg\n");
+  const std::map<std::string, std::uint32_t> inks = {
+      {"square", 0xff3b3b3b}, {"square-light", 0xff3b3b3b}, {"square-dark", 0xffd6d6d6}};
+  for (const auto& [name, ink] : inks) {
+    SCOPED_TRACE(name);
+    const Picture single = pictureIn(scratch.path / "out/png" / (name + ".png"));
+    const Picture twice = pictureIn(scratch.path / "out/png" / (name + "@2x.png"));
+    EXPECT_EQ(single.width, 16);
+    EXPECT_EQ(single.height, 16);
+    EXPECT_EQ(twice.width, 32);
+    EXPECT_EQ(single.middle, ink);
+    EXPECT_EQ(twice.middle, ink);
+    EXPECT_EQ(single.corner, 0U);
+  }
+  EXPECT_THAT(scratch.read("out/svg/mark.svg"), testing::HasSubstr("fill=\"#3b3b3b\""));
+}
+
+std::map<std::string, std::string> filesBelow(const std::filesystem::path& folder) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+    if (entry.is_regular_file()) files[entry.path().lexically_relative(folder)] = readFile(entry.path());
+  }
+  return files;
+}
+
+TEST(ShippedIcons, ComeOutAlikeEachTime) {
+  const std::filesystem::path list = std::filesystem::path(CORVANE_SOURCE) / "plugin/icons/icons.txt";
+  const std::vector<DrawnIcon> set = readIconSet(list);
+  const Scratch scratch;
+  writeIconFiles(set, scratch.path / "one");
+  writeIconFiles(set, scratch.path / "two");
+  const auto one = filesBelow(scratch.path / "one");
+  EXPECT_GT(one.size(), set.size() * 2);
+  EXPECT_TRUE(one == filesBelow(scratch.path / "two"));
+}
+
+// What code of the plug-in asks for by number.
+TEST(ShippedIcons, CoverTheIdsInUse) {
+  const std::filesystem::path list = std::filesystem::path(CORVANE_SOURCE) / "plugin/icons/icons.txt";
+  std::map<int, bool> themed;
+  for (const Icon& icon : parseIconList(readFile(list), "icons.txt")) themed[icon.id] = icon.themed;
+  const std::map<int, bool> expected = {{16041, true},  {16055, true},  {16100, true}, {16101, false},
+                                        {16102, false}, {16201, true},  {16203, true}, {16221, false},
+                                        {16223, false}, {16224, false}, {16225, true}};
+  EXPECT_EQ(themed, expected);
+}
+
+TEST(ShippedIcons, FillAContactSheet) {
+  const Scratch scratch;
+  std::ostringstream errors;
+  const std::filesystem::path list = std::filesystem::path(CORVANE_SOURCE) / "plugin/icons/icons.txt";
+  ASSERT_EQ(run({list, "--sheet", scratch.path / "sheet.png"}, errors), 0) << errors.str();
+  const Picture sheet = pictureIn(scratch.path / "sheet.png");
+  EXPECT_GT(sheet.width, 400);
+  EXPECT_EQ(sheet.corner & 0xffffff, 0xefefefU);
+}
+
+}  // namespace
+}  // namespace icons
