@@ -14,13 +14,13 @@ namespace {
 constexpr std::size_t kItemKeySize = 1024;
 
 // What LookupResource finds for the sentence, without copies on the way: this is asked for every label.
-const char* FindSentence(const TextState& state, const char* text) {
+const char* FindSentence(const TextState& state, const char* text, std::size_t& length) {
   const RDB_Database* texts = state.mainDatabase.get();
   if (texts != nullptr) {
-    if (const char* found = RDB_FindString(texts, nullptr, text)) return found;
+    if (const char* found = RDB_FindString(texts, nullptr, text, &length)) return found;
   }
   if (MissingKeysAreRecorded()) RecordMissingKey(EscapeKey(text).c_str());
-  return texts != nullptr ? RDB_FindString(texts, "Defaults", text) : nullptr;
+  return texts != nullptr ? RDB_FindString(texts, "Defaults", text, &length) : nullptr;
 }
 
 }  // namespace
@@ -28,8 +28,9 @@ const char* FindSentence(const TextState& state, const char* text) {
 const char* Localize(const char* text) {
   if (text == nullptr || text[0] == '\0') return text;
   EnsureTextInitialised();
-  const char* found = FindSentence(TheTextState(), text);
-  return found != nullptr ? InResultBuffer(found, std::strlen(found)) : text;
+  std::size_t length = 0;
+  const char* found = FindSentence(TheTextState(), text, length);
+  return found != nullptr ? InResultBuffer(found, length) : text;
 }
 
 const char* LocalizeItemText(const char* group, const char* text) {

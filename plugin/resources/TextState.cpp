@@ -4,9 +4,14 @@
 
 #include "CopyUTF8.h"
 
+namespace {
+
+TextState textState;  // asked for at every label, and never before the library is loaded
+
+}  // namespace
+
 TextState& TheTextState() {
-  static TextState state;
-  return state;
+  return textState;
 }
 
 const char* InResultBuffer(const char* text, std::size_t length) {

@@ -85,5 +85,7 @@ void RDB_Get(const RDB_Database* db, const char* key, unsigned& type, unsigned& 
 // Null when absent or no string.
 RDB_Text RDB_GetString(const RDB_Database* db, const char* key);
 // RDB_GetString for the key of the one component `text`, below the component `group` if that is not null,
-// both unescaped. Nothing is copied: the result is the database's own, until that changes.
-const char* RDB_FindString(const RDB_Database* db, const char* group, const char* text);
+// both unescaped. Nothing is copied: the result is the database's own, until that changes. `length`, if not
+// null, becomes its bytes without the NUL.
+const char* RDB_FindString(const RDB_Database* db, const char* group, const char* text,
+                           std::size_t* length = nullptr);

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "RDB_Hash.h"
+#include "RDB_KeySplitter.h"
 
 int rdbError = kRDBNoError;
 
@@ -11,15 +11,9 @@ namespace {
 constexpr char kMarker[] = "-RVRDB-";
 constexpr char kRootName[] = "RVRDB";
 
-RDB_KeyPart RootPart() {
-  const std::size_t length = sizeof kRootName - 1;
-  const unsigned hash = RDB_Hash(kRootName, length);
-  return {RDB_SlotOfHash(hash), hash, length, kRootName};
-}
-
 }  // namespace
 
-RDB_Database::RDB_Database() : root(RootPart(), kRootName, nullptr) {
+RDB_Database::RDB_Database() : root(RDB_PartOfName(kRootName), kRootName, nullptr) {
   static_assert(sizeof kMarker == sizeof marker, "the marker fills its field");
   std::memcpy(marker, kMarker, sizeof marker);
 }

@@ -28,6 +28,10 @@ void RDB_File::Close() {
   descriptor_ = -1;
 }
 
+void RDB_File::Rewind() {
+  ::lseek(descriptor_, 0, SEEK_SET);
+}
+
 bool RDB_File::Read(char* bytes, std::size_t size, std::size_t& count) {
   ssize_t got = 0;
   do {

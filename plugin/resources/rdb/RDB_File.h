@@ -16,6 +16,8 @@ class RDB_File {
   std::size_t Size() const { return size_; }
   // Up to `size` bytes, and 0 of them at the end of the file. False on a read error.
   bool Read(char* bytes, std::size_t size, std::size_t& count);
+  // The next Read starts at the front again.
+  void Rewind();
 
  private:
   void Close();

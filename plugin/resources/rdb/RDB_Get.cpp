@@ -1,16 +1,10 @@
 #include <cstring>
 
 #include "RDB_Database.h"
-#include "RDB_Hash.h"
+#include "RDB_KeySplitter.h"
 #include "RDB_Lookup.h"
 
 namespace {
-
-RDB_KeyPart PartOf(const char* name) {
-  const std::size_t length = std::strlen(name);
-  const unsigned hash = RDB_Hash(name, length);
-  return {RDB_SlotOfHash(hash), hash, length, name};
-}
 
 const RDB_Node* FindNode(const RDB_Database& db, const char* key) {
   const RDB_Key parts = RDB_ParseKey(key);
@@ -18,6 +12,20 @@ const RDB_Node* FindNode(const RDB_Database& db, const char* key) {
   std::size_t count = 0;
   while (parts[count].name != nullptr) ++count;
   return RDB_Lookup(db.root, parts.get(), count);
+}
+
+// Most groups that are asked for aren't there; then the text need not be looked at.
+const RDB_Node* FindText(const RDB_Node& root, const char* group, const char* text) {
+  if (group == nullptr) {
+    const RDB_KeyPart part = RDB_PartOfName(text);
+    return RDB_Lookup(root, &part, 1);
+  }
+  const RDB_KeyPart groupPart = RDB_PartOfName(group);
+  const bool canLead =
+      root.children && (root.children->HasWildcards() || root.FindChild(groupPart) != nullptr);
+  if (!canLead) return nullptr;
+  const RDB_KeyPart parts[] = {groupPart, RDB_PartOfName(text)};
+  return RDB_Lookup(root, parts, 2);
 }
 
 RDB_Text CopyOfData(const RDB_Value& value) {
@@ -53,18 +61,18 @@ RDB_Text RDB_GetString(const RDB_Database* db, const char* key) {
   return text;
 }
 
-const char* RDB_FindString(const RDB_Database* db, const char* group, const char* text) {
-  const char* found = nullptr;
-  if (!RDB_Begin(db)) return found;
+const char* RDB_FindString(const RDB_Database* db, const char* group, const char* text, std::size_t* length) {
+  if (!RDB_Begin(db)) return nullptr;
   if (text == nullptr) {
     rdbError = kRDBBadKey;
-    return found;
+    return nullptr;
   }
-  RDB_CatchOutOfMemory([&] {
-    const RDB_KeyPart parts[] = {group != nullptr ? PartOf(group) : RDB_KeyPart{}, PartOf(text)};
-    const std::size_t count = group != nullptr ? 2 : 1;
-    const RDB_Node* const node = RDB_Lookup(db->root, parts + (2 - count), count);
-    if (node != nullptr && node->HasText()) found = node->value->Data();
-  });
-  return found;
+  const RDB_Node* node = nullptr;
+  RDB_CatchOutOfMemory([&] { node = FindText(db->root, group, text); });
+  if (node == nullptr || !node->HasText()) return nullptr;
+  const RDB_Value& value = *node->value;
+  const char* const data = value.Data();
+  if (length != nullptr)
+    *length = value.size > 0 && data[value.size - 1] == '\0' ? value.size - 1 : value.size;
+  return data;
 }

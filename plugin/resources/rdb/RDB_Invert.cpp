@@ -1,19 +1,12 @@
-#include <cstring>
 #include <vector>
 
 #include "RDB_Database.h"
-#include "RDB_Hash.h"
+#include "RDB_KeySplitter.h"
 
 namespace {
 
-RDB_KeyPart PartOfText(const RDB_Value& value) {
-  const std::size_t length = std::strlen(value.Data());
-  const unsigned hash = RDB_Hash(value.Data(), length);
-  return {RDB_SlotOfHash(hash), hash, length, value.Data()};
-}
-
 void PutEntry(RDB_Node& parent, const RDB_KeyPart& text, const RDB_KeyPart& keyPart) {
-  parent.FindOrMakeChild(text).value = RDB_ValueRef(kRDBString, keyPart.length + 1, keyPart.name);
+  parent.FindOrMakeChild(text).value = RDB_ValueRef(std::string_view(keyPart.name, keyPart.length));
 }
 
 // Walks the source and keeps the place in the target that belongs to where it is. Nodes of the target are
@@ -26,7 +19,7 @@ class Inversion {
     const RDB_Node* node = root_.FirstChild();
     while (node != nullptr) {
       if (node->HasText()) {
-        PutEntry(MadeTarget(), PartOfText(*node->value), node->Part());
+        PutEntry(MadeTarget(), RDB_PartOfName(node->value->Data()), node->Part());
       } else if (node->childCount > 0) {
         GoBelow(*node);
         node = node->FirstChild();
@@ -77,7 +70,7 @@ class Inversion {
 void Invert(const RDB_Node& source, RDB_Node& target) {
   if (source.HasText()) {
     // The key of the root has no component.
-    PutEntry(target, PartOfText(*source.value), {0, 0, 0, ""});
+    PutEntry(target, RDB_PartOfName(source.value->Data()), {0, 0, 0, ""});
   } else {
     Inversion(source, target).Run();
   }

@@ -1,10 +1,11 @@
 #include "RDB_KeySplitter.h"
 
+#include <cstring>
+
 #include "RDB_Hash.h"
 
 namespace {
 
-constexpr char kStarName[] = "*";
 constexpr char kDotsName[] = ".";
 
 bool StartsWithJustTwoDots(const char* key) {
@@ -13,8 +14,15 @@ bool StartsWithJustTwoDots(const char* key) {
 
 }  // namespace
 
-RDB_KeySplitter::RDB_KeySplitter(char* key)
-    : next_(key[0] == '.' && !StartsWithJustTwoDots(key) ? key + 1 : key), hasMore_(*next_ != '\0') {}
+RDB_KeyPart RDB_PartOfName(std::string_view name) {
+  const unsigned hash = RDB_Hash(name.data(), name.size());
+  return {RDB_SlotOfHash(hash), hash, name.size(), name.data()};
+}
+
+RDB_KeySplitter::RDB_KeySplitter(char* key, std::size_t length)
+    : next_(key[0] == '.' && !StartsWithJustTwoDots(key) ? key + 1 : key),
+      end_(key + length),
+      hasMore_(next_ != end_) {}
 
 bool RDB_KeySplitter::Next(RDB_KeyPart& part) {
   if (!hasMore_) return false;
@@ -32,7 +40,7 @@ bool RDB_KeySplitter::IsAtDots() const {
 
 void RDB_KeySplitter::TakeDots(RDB_KeyPart& part) {
   while (*next_ == '.') ++next_;
-  hasMore_ = *next_ != '\0';
+  hasMore_ = next_ != end_;
   part = {kRDBDots, RDB_Hash(kDotsName, 1), 1, kDotsName};
 }
 
@@ -42,27 +50,23 @@ void RDB_KeySplitter::TakeName(RDB_KeyPart& part) {
   char* const end = Unescape();
   const auto length = static_cast<std::size_t>(end - name);
   *end = '\0';
-  const unsigned hash = RDB_Hash(name, length);
-  if (mayBeStar && length == 1) {
-    part = {kRDBStar, hash, length, kStarName};
-  } else {
-    part = {RDB_SlotOfHash(hash), hash, length, name};
-  }
+  part = RDB_PartOfName({name, length});
+  if (mayBeStar && length == 1) part.slot = kRDBStar;
 }
 
 // From `next_` to behind the dot that ends the component; a dot as its first byte does not. Returns the end
 // of the unescaped name.
 char* RDB_KeySplitter::Unescape() {
-  char* const begin = next_;
-  char* end = begin;
-  for (; *next_ != '\0'; ++next_) {
-    if (*next_ == '.' && next_ != begin) {
-      ++next_;
-      return end;
-    }
-    if (*next_ == '\\' && *++next_ == '\0') break;
-    *end++ = *next_;
+  char* end = next_;
+  if (*next_ == '.') end = ++next_;
+  for (;;) {
+    const auto plain = static_cast<std::size_t>(RDB_FindByte<'.', '\\'>(next_, end_) - next_);
+    if (end != next_) std::memmove(end, next_, plain);
+    end += plain;
+    next_ += plain;
+    hasMore_ = next_ != end_;
+    if (!hasMore_) return end;
+    if (*next_++ == '.') return end;
+    if (next_ != end_) *end++ = *next_++;
   }
-  hasMore_ = false;
-  return end;
 }

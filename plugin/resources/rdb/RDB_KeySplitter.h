@@ -1,13 +1,19 @@
 // Takes a key apart.
 #pragma once
 
+#include <string_view>
+
 #include "RDB.h"
+
+// `name` as an ordinary component; it has to last as long.
+RDB_KeyPart RDB_PartOfName(std::string_view name);
 
 // Gives the components of a key one by one. Their names are unescaped in place, so the key is used up; they
 // last as long as its bytes do.
 class RDB_KeySplitter {
  public:
-  explicit RDB_KeySplitter(char* key);
+  // `length` bytes and a NUL; there is none before.
+  RDB_KeySplitter(char* key, std::size_t length);
 
   // False at the end of the key.
   bool Next(RDB_KeyPart& part);
@@ -19,5 +25,6 @@ class RDB_KeySplitter {
   char* Unescape();
 
   char* next_;
+  char* end_;
   bool hasMore_;  // not the same as standing before a byte: a dot at the end leaves an empty component
 };

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "RDB_Database.h"
-#include "RDB_Hash.h"
+#include "RDB_KeySplitter.h"
 #include "RDB_Types.h"
 
 namespace {
@@ -33,11 +33,6 @@ struct Record {
   unsigned valueSize;
   unsigned childCount;
 };
-
-unsigned SlotOf(char kind, unsigned hash) {
-  if (kind == 1) return kRDBStar;
-  return kind == 2 ? unsigned{kRDBDots} : RDB_SlotOfHash(hash);
-}
 
 // Every step gives the code of what is wrong with the file, and throws std::bad_alloc.
 class CompiledLoad {
@@ -81,7 +76,8 @@ class CompiledLoad {
     for (unsigned at = 0; at < typeCount_; ++at) {
       char length[kNumberSize];
       if (!reader_.Get(length, sizeof length) || !GetBytes(NumberAt(length), name)) return kRDBBadHead;
-      types_.push_back(RDB_TypeIndex(name.c_str()));
+      name.resize(std::strlen(name.c_str()));
+      types_.push_back(RDB_TypeIndex(name));
     }
     return kRDBNoError;
   }
@@ -103,10 +99,11 @@ class CompiledLoad {
     RDB_ValueRef value;
     const RDB_Error error = ReadRecord(record, value);
     if (error != kRDBNoError) return error;
-    const std::size_t length = std::strlen(name_.c_str());
-    const unsigned hash = RDB_Hash(name_.c_str(), length);
+    RDB_KeyPart part = RDB_PartOfName(name_.c_str());
+    if (record.kind == 1) part.slot = kRDBStar;
+    if (record.kind == 2) part.slot = kRDBDots;
     open_.push_back(record.childCount);
-    parent = &parent->MakeChild({SlotOf(record.kind, hash), hash, length, name_.c_str()});
+    parent = &parent->MakeChild(part);
     parent->value = std::move(value);
     return kRDBNoError;
   }

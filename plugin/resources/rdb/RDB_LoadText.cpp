@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "RDB_KeySplitter.h"
+#include "RDB_PlainEntry.h"
 #include "RDB_Put.h"
 #include "RDB_Tokens.h"
 
@@ -28,17 +30,32 @@ class TextLoad {
   }
 
   const char* Message() const { return message_; }
-  unsigned long Line() const { return tokens_.Line(); }
 
  private:
   bool ReadEntry() {
+    RDB_PlainEntry plain;
+    if (plain.Read(reader_.Next(), reader_.End())) {
+      Store(plain);
+      reader_.SkipTo(plain.end);
+      return true;
+    }
     if (!ReadToken(RDB_Tokens::Mode::kKey, key_)) return false;
     if (!tokens_.ReadSeparator()) return Fail(kRDBBadFile, "No ':' separator");
     if (!ReadToken(RDB_Tokens::Mode::kValue, value_)) return false;
     // Both are C strings from here on: a NUL written as an escape ends them.
-    const std::size_t size = std::strlen(value_.c_str()) + 1;
-    RDB_MakeNode(db_, key_.data()).value = RDB_ValueRef(kRDBString, size, value_.c_str());
+    RDB_MakeNode(db_, key_.data(), std::strlen(key_.c_str())).value = RDB_ValueRef(value_.c_str());
     return true;
+  }
+
+  void Store(const RDB_PlainEntry& entry) {
+    RDB_Node* node = nullptr;
+    if (entry.isName) {
+      node = &db_.root.FindOrMakeChild(RDB_PartOfName(entry.key));
+    } else {
+      key_ = entry.key;
+      node = &RDB_MakeNode(db_, key_.data(), key_.size());
+    }
+    node->value = RDB_ValueRef(entry.value);
   }
 
   bool ReadToken(RDB_Tokens::Mode mode, std::string& token) {
@@ -76,7 +93,7 @@ void RDB_ReadText(RDB_Database& db, RDB_Reader& reader, const char* path) {
   rdbError = kRDBNoError;
   TextLoad load(db, reader);
   load.Run();
-  if (!reader.IsAtEnd() && rdbError != kRDBNoError) Report(load.Message(), path, load.Line());
+  if (!reader.IsAtEnd() && rdbError != kRDBNoError) Report(load.Message(), path, reader.CountLines());
 }
 
 void RDB_LoadText(RDB_Database* db, const char* path) {

@@ -1,7 +1,5 @@
 #include "RDB_NameIndex.h"
 
-#include "RDB_Node.h"
-
 namespace {
 
 constexpr std::size_t kFirstPlaces = 64;
@@ -9,29 +7,31 @@ constexpr unsigned kFirstShift = 26;  // 2^(32 - 26) places
 
 }  // namespace
 
-RDB_NameIndex::RDB_NameIndex() : places_(kFirstPlaces, nullptr), shift_(kFirstShift) {}
-
-// Where the node stands, or the free place where it would. The product spreads the hashes of short names,
-// which fill the low bits only (Knuth, The Art of Computer Programming 3, 6.4).
-std::size_t RDB_NameIndex::PlaceOf(const RDB_KeyPart& part) const {
-  const std::size_t mask = places_.size() - 1;
-  std::size_t place = (part.hash * 2654435769u) >> shift_;
-  while (places_[place] != nullptr && !places_[place]->IsCalled(part)) place = (place + 1) & mask;
-  return place;
-}
+RDB_NameIndex::RDB_NameIndex()
+    : marks_(kFirstPlaces), nodes_(kFirstPlaces), mask_(kFirstPlaces - 1), shift_(kFirstShift) {}
 
 void RDB_NameIndex::Add(RDB_Node& node) {
-  if (2 * (count_ + 1) > places_.size()) Grow();
-  RDB_Node*& place = places_[PlaceOf(node.Part())];
-  if (place == nullptr) ++count_;
-  place = &node;
+  if (4 * (count_ + 1) > nodes_.size()) Grow();
+  const std::size_t place = PlaceOf(node.Part());
+  if (nodes_[place] == nullptr) ++count_;
+  marks_[place] = MarkOf(node.hash);
+  nodes_[place] = &node;
 }
 
+// No two of the nodes are called the same, so each goes to the next free place.
 void RDB_NameIndex::Grow() {
-  std::vector<RDB_Node*> old(2 * places_.size(), nullptr);
-  old.swap(places_);
+  const std::size_t size = 2 * nodes_.size();
+  std::vector<unsigned> marks(size);
+  std::vector<RDB_Node*> nodes(size);
+  marks_.swap(marks);
+  nodes_.swap(nodes);
+  mask_ = size - 1;
   if (shift_ > 0) --shift_;
-  for (RDB_Node* node : old) {
-    if (node != nullptr) places_[PlaceOf(node->Part())] = node;
+  for (std::size_t at = 0; at < marks.size(); ++at) {
+    if (marks[at] == 0) continue;
+    std::size_t place = FirstPlaceOf(marks[at]);
+    while (marks_[place] != 0) place = (place + 1) & mask_;
+    marks_[place] = marks[at];
+    nodes_[place] = nodes[at];
   }
 }

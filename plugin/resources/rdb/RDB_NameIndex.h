@@ -4,25 +4,39 @@
 #include <cstddef>
 #include <vector>
 
-#include "RDB.h"
+#include "RDB_Node.h"
 
-struct RDB_Node;
-
-// A table with open addressing, at most half full. Of the nodes with the same bucket and name it knows the
-// one that was added last, which is the first of them in the bucket. It does not own the nodes.
+// A table with open addressing, at most a quarter full so that misses end at once. Of the nodes with the same
+// bucket and name it knows the one that was added last, which is the first of them in the bucket. It does not
+// own the nodes.
 class RDB_NameIndex {
  public:
   RDB_NameIndex();
 
-  RDB_Node* Find(const RDB_KeyPart& part) const { return places_[PlaceOf(part)]; }
+  // Null if there is none.
+  RDB_Node* Find(const RDB_KeyPart& part) const { return nodes_[PlaceOf(part)]; }
   // Throws std::bad_alloc, and has done nothing then.
   void Add(RDB_Node& node);
 
  private:
-  std::size_t PlaceOf(const RDB_KeyPart& part) const;
+  // What is compared first, 0 for a free place: so the node is touched only if it is the one looked for, and
+  // the table of marks stays small enough for the nearest cache.
+  static unsigned MarkOf(unsigned hash) { return hash | 1u; }
+  // The product spreads the hashes of short names, which fill the low bits only (Knuth, The Art of Computer
+  // Programming 3, 6.4).
+  std::size_t FirstPlaceOf(unsigned mark) const { return (mark * 2654435769u) >> shift_; }
+  // Where the node stands, or the free place where it would.
+  std::size_t PlaceOf(const RDB_KeyPart& part) const {
+    const unsigned mark = MarkOf(part.hash);
+    std::size_t at = FirstPlaceOf(mark);
+    while (marks_[at] != 0 && (marks_[at] != mark || !nodes_[at]->IsCalled(part))) at = (at + 1) & mask_;
+    return at;
+  }
   void Grow();
 
-  std::vector<RDB_Node*> places_;  // a power of two of them
-  unsigned shift_;                 // from 32 bits of hash to a place
+  std::vector<unsigned> marks_;   // a power of two of them
+  std::vector<RDB_Node*> nodes_;  // in the same places
+  std::size_t mask_;              // from any number to a place
+  unsigned shift_;                // from 32 bits of hash to a place
   std::size_t count_ = 0;
 };

@@ -34,11 +34,6 @@ RDB_Node::RDB_Node(const RDB_KeyPart& part, const char* nameOfNode, RDB_Node* pa
       hash(part.hash),
       nameLength(static_cast<unsigned>(part.length)) {}
 
-bool RDB_Node::IsCalled(const RDB_KeyPart& part) const {
-  return hash == part.hash && slot == part.slot && nameLength == part.length &&
-         std::memcmp(name, part.name, part.length) == 0;
-}
-
 RDB_Node* RDB_Node::FindChild(const RDB_KeyPart& part) const {
   return children ? children->Find(part) : nullptr;
 }

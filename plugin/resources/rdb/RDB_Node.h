@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <memory>
 
 #include "RDB.h"
@@ -26,7 +27,10 @@ struct RDB_Node {
   unsigned nameLength;                     // bytes
   unsigned childCount = 0;
 
-  bool IsCalled(const RDB_KeyPart& part) const;
+  bool IsCalled(const RDB_KeyPart& part) const {
+    return hash == part.hash && slot == part.slot && nameLength == part.length &&
+           std::memcmp(name, part.name, part.length) == 0;
+  }
   // Slot, hash and name, as a key part that lives no longer than the node.
   RDB_KeyPart Part() const { return {slot, hash, nameLength, name}; }
   // True if the value is a text.

@@ -30,7 +30,7 @@ RDB_Key RDB_ParseKey(const char* key) {
   RDB_Key list(static_cast<RDB_KeyPart*>(block));
   char* const names = static_cast<char*>(block) + listSize;
   std::memcpy(names, key, length + 1);
-  RDB_KeySplitter splitter(names);
+  RDB_KeySplitter splitter(names, length);
   RDB_KeyPart* part = list.get();
   while (splitter.Next(*part)) ++part;
   *part = {};

@@ -5,8 +5,8 @@
 
 #include "RDB_KeySplitter.h"
 
-RDB_Node& RDB_MakeNode(RDB_Database& db, char* key) {
-  RDB_KeySplitter splitter(key);
+RDB_Node& RDB_MakeNode(RDB_Database& db, char* key, std::size_t length) {
+  RDB_KeySplitter splitter(key, length);
   RDB_Node* node = &db.root;
   RDB_KeyPart part;
   while (splitter.Next(part)) node = &node->FindOrMakeChild(part);
@@ -26,7 +26,7 @@ void Put(RDB_Database* db, const char* key, unsigned type, std::size_t size, con
     RDB_ValueRef value;
     if (size > 0 && data != nullptr) value = RDB_ValueRef(type, size, data);
     std::string used(key);
-    RDB_MakeNode(*db, used.data()).value = std::move(value);
+    RDB_MakeNode(*db, used.data(), used.size()).value = std::move(value);
   });
 }
 

@@ -28,6 +28,8 @@ class RDB_Reader {
   const char* End() const { return end_; }
   void SkipTo(const char* place) { next_ = place; }
 
+  // Of the byte read last, from 1. Looks at all bytes once more, and is the last thing to ask of a reader.
+  unsigned long CountLines();
   // At most so many bytes are left, as far as is known: a file may have been cut meanwhile.
   std::size_t Remaining() const { return unread_ + static_cast<std::size_t>(end_ - next_); }
   // True once a byte was wanted and there was none.
@@ -39,9 +41,11 @@ class RDB_Reader {
 
   RDB_File* file_ = nullptr;
   std::unique_ptr<char[]> buffer_;
+  const char* begin_;  // of memory
   const char* next_;
   const char* end_;
-  std::size_t unread_ = 0;  // of the file
+  std::size_t filled_ = 0;  // bytes of the file that were read
+  std::size_t unread_ = 0;  // and those that were not
   bool isAtEnd_ = false;
   bool hasFailed_ = false;
 };

@@ -1,10 +1,16 @@
 #include "RDB_Tokens.h"
 
-#include "RDB_ByteClass.h"
+#include "RDB_Bytes.h"
+#include "RDB_Words.h"
 
 namespace {
 
-constexpr std::array<RDB_ByteClass, 256> kByteClasses = RDB_MakeByteClasses();
+constexpr std::array<bool, 256> kIsPlain = RDB_MakePlainBytes();
+
+const char* EndOfPlain(const char* begin, const char* end) {
+  while (begin != end && kIsPlain[static_cast<unsigned char>(*begin)]) ++begin;
+  return begin;
+}
 
 }  // namespace
 
@@ -14,22 +20,20 @@ bool RDB_Tokens::Read(Mode mode, std::string& token) {
   bool isQuoted = false;
   for (;;) {
     AppendPlain(token, isQuoted);
-    const int byte = GetCounted();
+    const int byte = reader_.Get();
     if (byte == RDB_Reader::kNone) return true;
     if (byte == '"') {
       isQuoted = !isQuoted;
     } else if (byte == '\\') {
       AppendEscape(mode, token);
-    } else if (isQuoted) {
-      token += static_cast<char>(byte);
-    } else if (IsEnd(byte)) {
+    } else if (!isQuoted && IsEnd(byte)) {
       return true;
-    } else if (byte == '#' || byte == ';') {
+    } else if (!isQuoted && (byte == '#' || byte == ';')) {
       SkipToEndOfToken();
       return true;
-    } else if (byte == '+') {
+    } else if (!isQuoted && byte == '+') {
       SkipSpace();
-    } else if (byte != '/' || !SkipIfBlockComment()) {
+    } else if (isQuoted || byte != '/' || !SkipIfBlockComment()) {
       token += static_cast<char>(byte);
     }
   }
@@ -55,19 +59,13 @@ bool RDB_Tokens::SkipToToken() {
   }
 }
 
-int RDB_Tokens::GetCounted() {
-  const int byte = reader_.Get();
-  if (byte == '\n') ++line_;
-  return byte;
-}
-
 void RDB_Tokens::SkipLine() {
-  int byte = GetCounted();
-  while (byte != RDB_Reader::kNone && byte != '\n' && byte != '\r') byte = GetCounted();
+  int byte = reader_.Get();
+  while (byte != RDB_Reader::kNone && byte != '\n' && byte != '\r') byte = reader_.Get();
 }
 
 void RDB_Tokens::SkipSpace() {
-  while (RDB_IsSpace(reader_.Peek())) GetCounted();
+  while (RDB_IsSpace(reader_.Peek())) reader_.Get();
 }
 
 // Behind a "/". True if that began a comment.
@@ -80,17 +78,17 @@ bool RDB_Tokens::SkipIfBlockComment() {
 
 void RDB_Tokens::SkipBlockComment() {
   int before = 0;
-  int byte = GetCounted();
+  int byte = reader_.Get();
   while (byte != RDB_Reader::kNone && !(before == '*' && byte == '/')) {
     before = byte;
-    byte = GetCounted();
+    byte = reader_.Get();
   }
 }
 
 // A comment inside a token ends where the token would: what stands behind that is the next token.
 void RDB_Tokens::SkipToEndOfToken() {
-  int byte = GetCounted();
-  while (byte != RDB_Reader::kNone && !IsEnd(byte)) byte = GetCounted();
+  int byte = reader_.Get();
+  while (byte != RDB_Reader::kNone && !IsEnd(byte)) byte = reader_.Get();
 }
 
 // Puts a separator back, and not white space.
@@ -101,16 +99,15 @@ bool RDB_Tokens::IsEnd(int byte) {
 }
 
 void RDB_Tokens::AppendPlain(std::string& token, bool isQuoted) {
-  const RDB_ByteClass lastPlain = isQuoted ? kRDBPlainInQuotes : kRDBPlain;
   const char* const begin = reader_.Next();
-  const char* end = begin;
-  while (end != reader_.End() && kByteClasses[static_cast<unsigned char>(*end)] <= lastPlain) ++end;
-  token.append(begin, end);
+  const char* const end =
+      isQuoted ? RDB_FindByte<'"', '\\'>(begin, reader_.End()) : EndOfPlain(begin, reader_.End());
+  token.append(begin, static_cast<std::size_t>(end - begin));
   reader_.SkipTo(end);
 }
 
 void RDB_Tokens::AppendEscape(Mode mode, std::string& token) {
-  const int byte = GetCounted();
+  const int byte = reader_.Get();
   if (byte == RDB_Reader::kNone) return;
   if (mode == Mode::kKey) token += '\\';
   switch (byte) {

@@ -19,12 +19,9 @@ class RDB_Tokens {
   bool Read(Mode mode, std::string& token);
   // Takes white space and the ":" or "=" behind it; false if something else stands there.
   bool ReadSeparator();
-  // Of the byte read last, from 1.
-  unsigned long Line() const { return line_; }
 
  private:
   bool SkipToToken();
-  int GetCounted();
   void SkipLine();
   void SkipSpace();
   void SkipBlockComment();
@@ -36,5 +33,4 @@ class RDB_Tokens {
   char ReadOctal(int digit);
 
   RDB_Reader& reader_;
-  unsigned long line_ = 1;
 };

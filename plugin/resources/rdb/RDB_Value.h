@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 struct RDB_Value {
   unsigned refCount;
@@ -20,6 +21,8 @@ class RDB_ValueRef {
   // Room for `size` bytes, which the caller fills before anyone else sees the value. Throws std::bad_alloc.
   RDB_ValueRef(unsigned type, std::size_t size);
   RDB_ValueRef(unsigned type, std::size_t size, const void* data);
+  // A string.
+  explicit RDB_ValueRef(std::string_view text);
   RDB_ValueRef(const RDB_ValueRef& other) : value_(other.value_) {
     if (value_ != nullptr) ++value_->refCount;
   }

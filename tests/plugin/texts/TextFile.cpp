@@ -1,5 +1,6 @@
 #include "TextFile.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -26,7 +27,7 @@ std::vector<TextEntry> Entries(const std::string& content, const RDB_Database* d
   std::string key;
   std::string value;
   while (tokens.Read(RDB_Tokens::Mode::kKey, key)) {
-    const std::size_t line = tokens.Line();
+    const auto line = static_cast<std::size_t>(1 + std::count(content.data(), reader.Next(), '\n'));
     if (!tokens.ReadSeparator() || !tokens.Read(RDB_Tokens::Mode::kValue, value)) break;
     const RDB_Text text = RDB_GetString(database, key.c_str());
     entries.push_back({CanonicalKey(key), text ? text.get() : "", line});
