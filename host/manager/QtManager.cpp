@@ -1,27 +1,4 @@
 #include "QtManager.h"
 
-namespace RVADMQtManager {
-namespace {
-
-const SPBasicSuite* basicSuite = nullptr;
-int openDialogs = 0;
-
-}  // namespace
-
-void QtManager::SetSPBasicSuite(const SPBasicSuite* basic) {
-  basicSuite = basic;
-}
-
-void QtManager::IncreaseDialogCount() {
-  ++openDialogs;
-}
-
-void QtManager::DecreaseDialogCount() {
-  if (openDialogs > 0) --openDialogs;
-}
-
-int QtManager::DialogCount() {
-  return openDialogs;
-}
-
-}  // namespace RVADMQtManager
+// Nothing in here asks the host through its suites.
+void RVADMQtManager::QtManager::SetSPBasicSuite(const SPBasicSuite*) {}
