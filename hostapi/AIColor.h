@@ -71,3 +71,8 @@ struct AICustomColor {
   AICustomColorUnion c;
   AICustomColorFlags flag;
 };
+
+// A colour of the screen.
+struct AIRGBColor {
+  std::uint16_t red, green, blue;  // 0 to 65535
+};

@@ -27,8 +27,9 @@ struct AINotifierMessage {
 // Types the host fires, in the order of a life.
 constexpr char kAIApplicationStartedNotifier[] = "AI Application Started Notifier";
 constexpr char kAIOwlAppInitDispatchedNotifier[] = "AI OwlApp Init Dispatched Notifier";
-constexpr char kAIDocumentOpenedNotifier[] = "AI Document Opened Notifier";    // data: AIDocumentHandle
-constexpr char kAIDocumentChangedNotifier[] = "AI Document Changed Notifier";  // another document is current
+constexpr char kAIDocumentOpenedNotifier[] = "AI Document Opened Notifier";  // data: AIDocumentHandle
+constexpr char kAIDocumentChangedNotifier[] =
+    "AI Document Changed Notifier";  // data: the current one, or null
 constexpr char kAIArtSelectionChangedNotifier[] = "AI Art Selection Changed Notifier";
 constexpr char kAIArtPropertiesChangedNotifier[] = "AI Art Properties Changed Notifier";
 constexpr char kAIUIBrightnessChangedNotifier[] = "AI UI Brightness Changed Notifier";

@@ -13,6 +13,9 @@ struct AIUserSuite {
   // A plug-in's cursor pictures; disposed of by the plug-in.
   AIErr (*CreateCursorResourceMgr)(SPPluginRef plugin, AIResourceManagerHandle* manager);
   AIErr (*DisposeCursorResourceMgr)(AIResourceManagerHandle manager);
+  // The pointer over the drawing, until the next message that tracks it: a picture by resource id in the
+  // manager's plug-in, whose middle is the hot spot. The host has a cross where there is no such picture.
+  AIErr (*SetCursor)(std::int32_t cursorID, AIResourceManagerHandle manager);
 };
 
 extern const AIUserSuite* sAIUser;

@@ -30,6 +30,8 @@ class UnicodeString {
   AIUnicodeStringHandle handle();
   // The same for a call that only reads.
   AIUnicodeStringHandle handle() const { return const_cast<UnicodeString*>(this)->handle(); }
+  // Never makes one, so null for an empty string: for hosts that are handed a string in a record.
+  AIUnicodeStringHandle existing() const noexcept { return string_; }
 
   friend bool operator==(const UnicodeString& a, const UnicodeString& b) {
     return a.as_UTF8() == b.as_UTF8();

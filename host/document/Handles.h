@@ -31,7 +31,9 @@ enum class HandleKind : std::uint8_t {
   FilePath,
   ArtboardList,
   ArtboardProperties,
-  ResourceManager
+  ResourceManager,
+  DataFilter,
+  AnnotatorDrawer
 };
 
 using ObjectId = std::uint32_t;  // 0 names nothing

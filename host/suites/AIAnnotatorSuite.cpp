@@ -1,6 +1,8 @@
 #include "AIAnnotator.h"
 
+#include "AnnotationCanvas.h"
 #include "Entry.h"
+#include "Lookup.h"
 #include "Suites.h"
 
 namespace host {
@@ -24,6 +26,14 @@ AIErr setAnnotatorActive(Host& host, AIAnnotatorHandle annotator, AIBoolean acti
   return kNoErr;
 }
 
+AIErr invalAnnotationRect(Host& host, AIDocumentViewHandle view, const AIRect* rect) {
+  if (rect == nullptr) return kBadParameterErr;
+  const OpenDocument* open = findView(host, view);
+  if (open == nullptr) return view == nullptr ? kNoDocumentErr : kBadParameterErr;
+  if (host.onInvalidate) host.onInvalidate(*open, covering(*rect));
+  return kNoErr;
+}
+
 }  // namespace
 
 SuiteOffer annotatorSuite() {
@@ -31,6 +41,7 @@ SuiteOffer annotatorSuite() {
   static const AIAnnotatorSuite table{
       entries.add<addAnnotator>("AddAnnotator"),
       entries.add<setAnnotatorActive>("SetAnnotatorActive"),
+      entries.add<invalAnnotationRect>("InvalAnnotationRect"),
   };
   return entries.offer(kAIAnnotatorSuiteVersion, &table);
 }

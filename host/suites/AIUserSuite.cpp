@@ -32,6 +32,13 @@ AIErr disposeCursorResourceMgr(Host& host, AIResourceManagerHandle manager) {
   return host.objects().cursorResources.dispose(manager) ? kNoErr : kBadParameterErr;
 }
 
+AIErr setCursor(Host& host, std::int32_t cursorID, AIResourceManagerHandle manager) {
+  const CursorResources* resources = host.objects().cursorResources.find(manager);
+  if (resources == nullptr) return kBadParameterErr;
+  if (host.onCursor) host.onCursor(*host.plugins().find(resources->plugin), cursorID);
+  return kNoErr;
+}
+
 }  // namespace
 
 SuiteOffer userSuite() {
@@ -41,6 +48,7 @@ SuiteOffer userSuite() {
       entries.add<errorAlert>("ErrorAlert"),
       entries.add<createCursorResourceMgr>("CreateCursorResourceMgr"),
       entries.add<disposeCursorResourceMgr>("DisposeCursorResourceMgr"),
+      entries.add<setCursor>("SetCursor"),
   };
   return entries.offer(kAIUserSuiteVersion, &table);
 }

@@ -9,6 +9,20 @@
 #include "SuiteCatalog.h"
 
 namespace host {
+namespace {
+
+class Counted {
+ public:
+  explicit Counted(int& count) : count_(count) { ++count_; }
+  Counted(const Counted&) = delete;
+  Counted& operator=(const Counted&) = delete;
+  ~Counted() { --count_; }
+
+ private:
+  int& count_;
+};
+
+}  // namespace
 
 Host* Host::current_ = nullptr;
 
@@ -36,8 +50,18 @@ PluginRecord& Host::addPlugin(std::string name, std::string bundle) {
   return plugins_.add(std::move(plugin));
 }
 
+const ResourceTable& Host::pictures(SPPluginRef plugin) {
+  static const ResourceTable none;
+  const PluginRecord* record = plugins_.find(plugin);
+  if (record == nullptr) return none;
+  const auto known = pictures_.find(plugin);
+  return known != pictures_.end() ? known->second
+                                  : pictures_.emplace(plugin, ResourceTable(record->bundle)).first->second;
+}
+
 void Host::alert(AlertKind kind, std::string text) {
   alerts_.push_back({kind, std::move(text)});
+  const Counted up(alertsUp_);
   if (showAlert) showAlert(Alert(alerts_.back()));
 }
 

@@ -3,16 +3,19 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "AIAnnotator.h"
 #include "Documents.h"
 #include "Folders.h"
 #include "MenuTable.h"
 #include "Preferences.h"
 #include "Refusal.h"
 #include "Registrations.h"
+#include "ResourceTable.h"
 #include "ToolTable.h"
 
 struct SPBasicSuite;
@@ -58,6 +61,9 @@ class Host {
   MenuTable& menus() { return menus_; }
   ToolTable& tools() { return tools_; }
 
+  // The pictures of a plug-in's bundle, read when they are first asked for; none for a stranger.
+  const ResourceTable& pictures(SPPluginRef plugin);
+
   // Bits of the application's state for MenuItem::enabledIn.
   std::int32_t menuState() { return currentDocument() != nullptr ? kIfOpenDocument : 0; }
 
@@ -68,9 +74,16 @@ class Host {
   std::function<void(const Alert&)> showAlert;
   const std::vector<Alert>& alerts() const { return alerts_; }
   void alert(AlertKind kind, std::string text);
+  bool alertIsUp() const { return alertsUp_ > 0; }  // shown and not answered yet
 
   // Called after a plug-in changed the view of a document.
   std::function<void(const OpenDocument&)> onViewChange;
+  // Called when an annotator wants a part of a view painted anew: in pixels, right and bottom beyond left
+  // and top. Not a time to paint.
+  std::function<void(const OpenDocument&, const AIRect& pixels)> onInvalidate;
+  // Called when a plug-in asks for the pointer over the drawing, whether it has that one already or not: a
+  // picture by resource id in the plug-in's bundle.
+  std::function<void(const PluginRecord&, std::int32_t cursorId)> onCursor;
 
   bool interactionAllowed = true;    // false: plug-ins are to show nothing
   bool endingWithoutSaving = false;  // an emergency exit is under way
@@ -93,11 +106,13 @@ class Host {
   Registry<PluginRecord> plugins_;
   Registry<NotifierRecord> notifiers_;
   Registry<AnnotatorRecord> annotators_;
+  std::map<SPPluginRef, ResourceTable> pictures_;
   MenuTable menus_;
   ToolTable tools_;
   Preferences preferences_;
   Folders folders_;
   std::vector<Alert> alerts_;
+  int alertsUp_ = 0;
   Refusal refusal_;
   std::vector<std::int32_t> holdCounts_;  // in the order of the catalogue
   std::unique_ptr<HostObjects> objects_;

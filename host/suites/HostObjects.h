@@ -1,12 +1,15 @@
 // Objects that plug-ins make, own and dispose of: strings, paths, copies of artboard lists.
 #pragma once
 
+#include <cstdio>
 #include <memory>
 #include <string>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "AIDataFilter.h"
+#include "AnnotationCanvas.h"
 #include "DocumentState.h"
 #include "Handles.h"
 #include "HostString.h"
@@ -54,12 +57,29 @@ struct CursorResources {
   SPPluginRef plugin;
 };
 
+// What an annotator draws with next.
+struct AnnotationDrawer {
+  AnnotationCanvas* canvas;  // never null
+  AnnotationPen pen;
+};
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+struct DataFilter {
+  std::string path;                            // absolute
+  std::unique_ptr<std::FILE, CloseFile> file;  // null until the filter is linked
+};
+
 struct HostObjects {
   OwnedObjects<AIUnicodeStringHandle, HandleKind::UnicodeString, HostString> strings;
   OwnedObjects<AIFilePathHandle, HandleKind::FilePath, FilePathText> filePaths;
   OwnedObjects<AIArtboardListHandle, HandleKind::ArtboardList, ArtboardListCopy> artboardLists;
   OwnedObjects<AIArtboardPropertiesHandle, HandleKind::ArtboardProperties, Artboard> artboardProperties;
   OwnedObjects<AIResourceManagerHandle, HandleKind::ResourceManager, CursorResources> cursorResources;
+  OwnedObjects<AIDataFilterHandle, HandleKind::DataFilter, DataFilter> dataFilters;
+  OwnedObjects<AIAnnotatorDrawer*, HandleKind::AnnotatorDrawer, AnnotationDrawer> drawers;
   std::weak_ptr<PathGeometry> lastPath;  // for PathEdit
 };
 

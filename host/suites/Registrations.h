@@ -2,8 +2,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
-#include "AITypes.h"
+#include "AITool.h"
 #include "Registry.h"
 
 namespace host {
@@ -41,7 +42,13 @@ struct ToolRecord {
   SPPluginRef plugin = nullptr;  // null: the application's own
   std::string name;              // for good, in no language
   std::string title;             // UTF-8, for people
+  std::string tooltip;           // UTF-8, for people
   int group = 0;                 // tools of one group share a place of the palette
+  int toolset = 0;               // places of one tool set stand side by side
+  std::int32_t lightIcon = 0;    // resource ids in the plug-in's bundle, for a light and a dark ground
+  std::int32_t darkIcon = 0;
+  bool tracksCursor = false;                      // is told how the pointer moves
+  std::vector<AIToolInfoVariable> infoVariables;  // what the info display shows while it is selected
 };
 
 }  // namespace host

@@ -15,14 +15,11 @@ struct HeldSuite {
 // Suites that plug-ins ask for and hold, and no plug-in calls.
 constexpr HeldSuite kHeldSuites[] = {
     {"AI Action Manager Suite", 1005},
-    {"AI Annotator Drawer Suite", 1007},
     {"AI Art Set Suite", 1009},
     {"AI Cloud Document Suite", 1001},
-    {"AI Color Conversion Suite", 1010},
     {"AI Command Manager Suite", 1005},
     {"AI Context Suite", 1010},
     {"AI Cursor Snap Suite", 1016},
-    {"AI Data Filter Suite", 1009},
     {"AI Dictionary Suite", 1010},
     {"AI Document List Suite", 1011},
     {"AI Expand Suite", 1004},
@@ -71,20 +68,14 @@ constexpr struct {
 
 std::vector<SuiteOffer> makeCatalog() {
   std::vector<SuiteOffer> catalog = {
-      annotatorSuite(),     artSuite(),
-      artboardSuite(),      customColorSuite(),
-      documentSuite(),      documentViewSuite(),
-      filePathSuite(),      foldersSuite(),
-      hitTestSuite(),       layerSuite(),
-      menuSuite(),          notifierSuite(),
-      pathSuite(),          pathStyleSuite(),
-      preferenceSuite(),    realMathSuite(),
-      runtimeSuite(),       swatchGroupSuite(),
-      swatchListSuite(),    toolSuite(),
-      unicodeStringSuite(), userInteractionSuite(),
-      userSuite(),          accessSuite(),
-      basicSuite(),         blocksSuite(),
-      pluginsSuite(),
+      annotatorDrawerSuite(), annotatorSuite(),   artSuite(),        artboardSuite(),
+      colorConversionSuite(), customColorSuite(), dataFilterSuite(), documentSuite(),
+      documentViewSuite(),    filePathSuite(),    foldersSuite(),    hitTestSuite(),
+      layerSuite(),           menuSuite(),        notifierSuite(),   pathSuite(),
+      pathStyleSuite(),       preferenceSuite(),  realMathSuite(),   runtimeSuite(),
+      swatchGroupSuite(),     swatchListSuite(),  toolSuite(),       unicodeStringSuite(),
+      userInteractionSuite(), userSuite(),        accessSuite(),     basicSuite(),
+      blocksSuite(),          pluginsSuite(),
   };
   for (const HeldSuite& held : kHeldSuites) catalog.push_back({held.name, held.version, &kNoEntries, {}});
   std::sort(catalog.begin(), catalog.end(), [](const SuiteOffer& a, const SuiteOffer& b) {

@@ -5,10 +5,13 @@
 
 namespace host {
 
+SuiteOffer annotatorDrawerSuite();
 SuiteOffer annotatorSuite();
 SuiteOffer artSuite();
 SuiteOffer artboardSuite();
+SuiteOffer colorConversionSuite();
 SuiteOffer customColorSuite();
+SuiteOffer dataFilterSuite();
 SuiteOffer documentSuite();
 SuiteOffer documentViewSuite();
 SuiteOffer filePathSuite();

@@ -1,0 +1,94 @@
+#include <cmath>
+#include <cstdlib>
+#include <limits>
+
+#include "AIColorConversion.h"
+#include "HostFixture.h"
+
+namespace {
+
+class ColorConversionSuiteTest : public HostFixture {
+ protected:
+  // No profile is found below these: inks are plain.
+  static void SetUpTestSuite() {
+    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_DATA_DIRS"}) setenv(name, "/nonexistent", 1);
+  }
+
+  const AIColorConversionSuite& suite =
+      acquire<AIColorConversionSuite>(kAIColorConversionSuite, kAIColorConversionSuiteVersion);
+};
+
+TEST_F(ColorConversionSuiteTest, ConvertsAmongItsSpaces) {
+  const struct {
+    AIColorSpace source;
+    float sample[4];
+    AIColorSpace destination;
+    float expected[4];
+    AIBoolean inGamut;
+  } cases[] = {
+      {kGraySpace, {0.5F}, kRGBSpace, {0.5F, 0.5F, 0.5F, -1}, 1},
+      {kCMYKSpace, {0.5F, 0, 1, 0.5F}, kRGBSpace, {0.25F, 0.5F, 0, -1}, 1},
+      {kRGBSpace, {0, 0, 0, 9}, kCMYKSpace, {0, 0, 0, 1}, 1},
+      {kLabSpace, {100, 0, 0}, kGraySpace, {1, -1, -1, -1}, 1},
+      {kLabSpace, {50, 127, -128}, kRGBSpace, {0.84F, 0, 1, -1}, 0},
+      {kRGBSpace, {1, 1, 1}, kLabSpace, {100, 0, 0, -1}, 1},
+  };
+  for (const auto& c : cases) {
+    float result[4] = {-1, -1, -1, -1};  // components that the space does not have are left alone
+    AIBoolean inGamut = 7;
+    EXPECT_EQ(suite.ConvertSample(c.source, c.sample, c.destination, result, kDefaultConversion, &inGamut),
+              kNoErr);
+    for (int i = 0; i < 4; ++i) EXPECT_NEAR(result[i], c.expected[i], 2e-3) << (&c - cases) << " " << i;
+    EXPECT_EQ(inGamut, c.inGamut) << (&c - cases);
+  }
+}
+
+TEST_F(ColorConversionSuiteTest, ConvertsInPlaceAndWithoutTheFlag) {
+  float sample[4] = {1, 0, 0, 0};
+  EXPECT_EQ(suite.ConvertSample(kRGBSpace, sample, kCMYKSpace, sample, kDefaultConversion, nullptr), kNoErr);
+  EXPECT_EQ(sample[0], 0);
+  EXPECT_EQ(sample[1], 1);
+  EXPECT_EQ(sample[2], 1);
+  EXPECT_EQ(sample[3], 0);
+}
+
+TEST_F(ColorConversionSuiteTest, RefusesWhatIsNoSample) {
+  constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+  constexpr float infinity = std::numeric_limits<float>::infinity();
+  const float good[4] = {};
+  const float notNumbers[][4] = {{nan}, {0, 0, infinity}, {0, -infinity, 0}};
+  float result[4] = {-1, -1, -1, -1};
+  AIBoolean inGamut = 7;
+  const auto convert = [&](int source, const float* sample, int destination, float* to, int options) {
+    return suite.ConvertSample(static_cast<AIColorSpace>(source), sample,
+                               static_cast<AIColorSpace>(destination), to,
+                               static_cast<AIConversionOptions>(options), &inGamut);
+  };
+  for (const auto& sample : notNumbers) {
+    EXPECT_EQ(convert(kRGBSpace, sample, kCMYKSpace, result, 0), kBadParameterErr);
+  }
+  for (const int space : {-1, 0, 3, 5, 8}) {
+    EXPECT_EQ(convert(space, good, kRGBSpace, result, 0), kBadParameterErr) << space;
+    EXPECT_EQ(convert(kRGBSpace, good, space, result, 0), kBadParameterErr) << space;
+  }
+  EXPECT_EQ(convert(kRGBSpace, nullptr, kRGBSpace, result, 0), kBadParameterErr);
+  EXPECT_EQ(convert(kRGBSpace, good, kRGBSpace, nullptr, 0), kBadParameterErr);
+  EXPECT_EQ(convert(kRGBSpace, good, kRGBSpace, result, 1), kBadParameterErr);
+  EXPECT_EQ(result[0], -1);
+  EXPECT_EQ(inGamut, 7);
+}
+
+TEST_F(ColorConversionSuiteTest, KnownColoursAreRefusedOnRequestToo) {
+  const float inks[4] = {1, 0, 0, 0};
+  float rgb[3] = {};
+  const auto convert = [&] {
+    return suite.ConvertSample(kCMYKSpace, inks, kRGBSpace, rgb, kDefaultConversion, nullptr);
+  };
+  EXPECT_EQ(convert(), kNoErr);
+  ASSERT_EQ(host.refusal().add("AI Color Conversion Suite:ConvertSample:2"), "");
+  EXPECT_EQ(convert(), kNoErr);
+  EXPECT_EQ(convert(), kSPCanceledByHostError);
+  EXPECT_EQ(convert(), kNoErr);
+}
+
+}  // namespace

@@ -1,0 +1,138 @@
+// Files read through the host.
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "AIDataFilter.h"
+#include "HostFixture.h"
+
+namespace {
+
+class DataFilterSuiteTest : public HostFixture {
+ protected:
+  DataFilterSuiteTest() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-filter-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
+    folder = pattern;
+  }
+  ~DataFilterSuiteTest() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+  }
+
+  std::string write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(folder / name, std::ios::binary) << bytes;
+    return folder / name;
+  }
+  AIDataFilterHandle newFilter(const std::string& path) {
+    AIDataFilterHandle filter = nullptr;
+    EXPECT_EQ(filters.NewFileDataFilter(path.c_str(), kAIReadFilterMode, &filter), kNoErr);
+    return filter;
+  }
+  // Reads to the end, `chunk` bytes at a time.
+  std::string readAll(AIDataFilterHandle filter, std::size_t chunk) {
+    std::string all, buffer(chunk, ' ');
+    for (std::size_t got = chunk; got == chunk; all.append(buffer, 0, got)) {
+      EXPECT_EQ(filters.ReadDataFilter(filter, buffer.data(), &got), kNoErr);
+    }
+    return all;
+  }
+
+  std::filesystem::path folder;
+  const AIDataFilterSuite& filters =
+      acquire<AIDataFilterSuite>(kAIDataFilterSuite, kAIDataFilterSuiteVersion);
+};
+
+TEST_F(DataFilterSuiteTest, ReadsTheFilePieceByPiece) {
+  std::string bytes(10000, ' ');
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 7);
+  const std::string path = write("data", bytes);
+  for (const std::size_t chunk : {1U, 9999U, 10000U, 10001U}) {
+    const AIDataFilterHandle filter = newFilter(path);
+    ASSERT_EQ(filters.LinkDataFilter(filter), kNoErr);
+    EXPECT_TRUE(readAll(filter, chunk) == bytes) << chunk;
+    EXPECT_EQ(readAll(filter, 1), "") << "behind the end";
+    EXPECT_EQ(filters.UnlinkDataFilter(filter), kNoErr);
+  }
+}
+
+TEST_F(DataFilterSuiteTest, FiltersOfOneFileGoTheirOwnWays) {
+  const std::string path = write("data", "abcdef");
+  const AIDataFilterHandle first = newFilter(path), second = newFilter(path);
+  ASSERT_EQ(filters.LinkDataFilter(first), kNoErr);
+  ASSERT_EQ(filters.LinkDataFilter(second), kNoErr);
+  char bytes[5] = "";
+  std::size_t count = 4;
+  EXPECT_EQ(filters.ReadDataFilter(first, bytes, &count), kNoErr);
+  EXPECT_STREQ(bytes, "abcd");
+  EXPECT_EQ(readAll(second, 4), "abcdef");
+  EXPECT_EQ(readAll(first, 4), "ef");
+}
+
+TEST_F(DataFilterSuiteTest, OnlyRegularFilesCanBeLinked) {
+  const std::string pipe = folder / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  const std::string noFiles[] = {folder / "missing", folder, pipe, "", "/dev/zero", folder / "missing/data"};
+  for (const std::string& path : noFiles) {
+    const AIDataFilterHandle filter = newFilter(path);
+    EXPECT_EQ(filters.LinkDataFilter(filter), kNoSuchItemErr) << path;
+    EXPECT_EQ(filters.UnlinkDataFilter(filter), kNoErr) << path;
+  }
+}
+
+TEST_F(DataFilterSuiteTest, WrongArgumentsGiveCodes) {
+  const std::string path = write("data", "abc");
+  AIDataFilterHandle filter = newFilter(path);
+  EXPECT_EQ(filters.NewFileDataFilter(path.c_str(), "write", &filter), kSPUnsupportedError);
+  EXPECT_EQ(filter, nullptr);
+  EXPECT_EQ(filters.NewFileDataFilter(nullptr, "read", &filter), kBadParameterErr);
+  EXPECT_EQ(filters.NewFileDataFilter(path.c_str(), nullptr, &filter), kBadParameterErr);
+  EXPECT_EQ(filters.NewFileDataFilter(path.c_str(), "read", nullptr), kBadParameterErr);
+
+  filter = newFilter(path);
+  char byte = '?';
+  std::size_t count = 1;
+  EXPECT_EQ(filters.ReadDataFilter(filter, &byte, &count), kBadParameterErr) << "not linked yet";
+  EXPECT_EQ(count, 0U);
+  ASSERT_EQ(filters.LinkDataFilter(filter), kNoErr);
+  EXPECT_EQ(filters.LinkDataFilter(filter), kBadParameterErr) << "linked already";
+  EXPECT_EQ(filters.ReadDataFilter(filter, &byte, nullptr), kBadParameterErr);
+  EXPECT_EQ(filters.ReadDataFilter(filter, nullptr, &(count = 1)), kBadParameterErr);
+  EXPECT_EQ(readAll(filter, 8), "abc") << "untouched by the failures";
+}
+
+TEST_F(DataFilterSuiteTest, StaleAndForeignHandlesGiveCodes) {
+  const AIDataFilterHandle stale = newFilter(write("data", "abc"));
+  ASSERT_EQ(filters.UnlinkDataFilter(stale), kNoErr);
+  const AIUnicodeStringHandle string = text("abc");
+  const AIDataFilterHandle wrong[] = {nullptr, stale, reinterpret_cast<AIDataFilterHandle>(string),
+                                      reinterpret_cast<AIDataFilterHandle>(this)};
+  for (const AIDataFilterHandle handle : wrong) {
+    char byte = '?';
+    std::size_t count = 1;
+    EXPECT_EQ(filters.LinkDataFilter(handle), kBadParameterErr);
+    EXPECT_EQ(filters.ReadDataFilter(handle, &byte, &count), kBadParameterErr);
+    EXPECT_EQ(count, 0U);
+    EXPECT_EQ(filters.UnlinkDataFilter(handle), kBadParameterErr);
+  }
+}
+
+// A file stays open for as long as its filter, whoever forgets about it.
+TEST_F(DataFilterSuiteTest, UnlinkingClosesTheFile) {
+  const auto openFiles = [] {
+    const std::filesystem::directory_iterator all("/proc/self/fd"), end;
+    return std::distance(all, end);
+  };
+  const auto before = openFiles();
+  const AIDataFilterHandle filter = newFilter(write("data", "abc"));
+  ASSERT_EQ(filters.LinkDataFilter(filter), kNoErr);
+  EXPECT_EQ(openFiles(), before + 1);
+  ASSERT_EQ(filters.UnlinkDataFilter(filter), kNoErr);
+  EXPECT_EQ(openFiles(), before);
+}
+
+}  // namespace
