@@ -1,5 +1,6 @@
 #include "Annotator.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -7,6 +8,15 @@
 #include "HMX_AIPlugin.h"
 
 namespace Vandrell::AIPluginWrappers {
+namespace {
+
+constexpr double kFarthestPixel = 1 << 30;
+
+int WholePixel(double pixels) {
+  return static_cast<int>(std::lround(std::clamp(pixels, -kFarthestPixel, kFarthestPixel)));
+}
+
+}  // namespace
 
 Annotator::Annotator(HMX_AIPlugin* owner) : plugin(owner) {
   if (plugin->GetPluginRef() == nullptr || sAIAnnotator == nullptr) return;
@@ -48,8 +58,8 @@ AIErr Annotator::ArtRectToViewRect(const AIRealPoint (&corners)[2], int (&rect)[
     AIRealPoint view = {};
     const AIErr error = sAIDocumentView->ArtworkPointToViewPoint(nullptr, &corner, &view);
     if (error != kNoErr) return error;
-    *pixels++ = static_cast<int>(std::lround(view.x));
-    *pixels++ = static_cast<int>(std::lround(view.y));
+    *pixels++ = WholePixel(view.x);
+    *pixels++ = WholePixel(view.y);
   }
   return kNoErr;
 }

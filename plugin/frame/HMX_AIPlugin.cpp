@@ -174,6 +174,18 @@ void HMX_AIPlugin::RunStartupActions() {
   startupActions.clear();
 }
 
+AIErr HMX_AIPlugin::SetCursor(std::int32_t cursorID) {
+  if (sAIUser == nullptr) {
+    if (const AIErr error = RequestSuite(kAIUserSuite); error != kNoErr) return error;
+    if (sAIUser == nullptr) return kSPSuiteNotFoundError;
+  }
+  if (cursorResourceManager == nullptr) {
+    const AIErr error = sAIUser->CreateCursorResourceMgr(pluginRef, &cursorResourceManager);
+    if (error != kNoErr) return error;
+  }
+  return sAIUser->SetCursor(cursorID, cursorResourceManager);
+}
+
 SPErr HMX_AIPlugin::RequestSuite(const char* name) {
   return suiteManager->Request(name);
 }

@@ -76,6 +76,9 @@ class HMX_AIPlugin {
   void AddStartupAction(StartupAction action, void* argument);
   void RunStartupActions();  // all of them in order, those that are added meanwhile too; then forgets them
 
+  // The pointer over the drawing: a picture of the plug-in's, by resource id. The host's code.
+  AIErr SetCursor(std::int32_t cursorID);
+
   // What must be gone before the host takes itself down: annotators, dialogs, cursors.
   void EndApplication();
 
@@ -86,7 +89,6 @@ class HMX_AIPlugin {
   const char* GetResourcePath() const { return resourcePath; }  // UTF-8, without a "/" at its end
   AIErr GetStartupError() const { return startupError; }
 
- protected:
   // Makes a wrapper and enters it in its table, which owns it.
   template <typename Notifier, typename... Arguments>
   Notifier* MakeNotifier(Arguments&&... arguments) {
@@ -101,6 +103,7 @@ class HMX_AIPlugin {
     return menu.release();
   }
 
+ protected:
   HMX_AISuiteManager* suiteManager;  // the one of the process
   SPPluginRef pluginRef;             // goes with every registration
   AIErr startupError = kNoErr;

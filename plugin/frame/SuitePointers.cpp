@@ -1,9 +1,12 @@
 // The process-wide suite pointers that every part of the plug-in calls the host through. The suite
 // manager alone writes them; null while a suite is not held.
 #include "AIAnnotator.h"
+#include "AIAnnotatorDrawer.h"
 #include "AIArt.h"
 #include "AIArtboard.h"
+#include "AIColorConversion.h"
 #include "AICustomColor.h"
+#include "AIDataFilter.h"
 #include "AIDocument.h"
 #include "AIDocumentView.h"
 #include "AIFilePath.h"
@@ -29,9 +32,12 @@
 
 const AINotifierSuite* sAINotifier = nullptr;
 const AIAnnotatorSuite* sAIAnnotator = nullptr;
+const AIAnnotatorDrawerSuite* sAIAnnotatorDrawer = nullptr;
 const AIArtboardSuite* sAIArtboard = nullptr;
 const AIArtSuite* sAIArt = nullptr;
+const AIColorConversionSuite* sAIColorConversion = nullptr;
 const AICustomColorSuite* sAICustomColor = nullptr;
+const AIDataFilterSuite* sAIDataFilter = nullptr;
 const AIDocumentSuite* sAIDocument = nullptr;
 const AIDocumentViewSuite* sAIDocumentView = nullptr;
 const AIFoldersSuite* sAIFolders = nullptr;

@@ -4,9 +4,12 @@
 #include <type_traits>
 
 #include "AIAnnotator.h"
+#include "AIAnnotatorDrawer.h"
 #include "AIArt.h"
 #include "AIArtboard.h"
+#include "AIColorConversion.h"
 #include "AICustomColor.h"
+#include "AIDataFilter.h"
 #include "AIDocument.h"
 #include "AIDocumentView.h"
 #include "AIFilePath.h"
@@ -58,7 +61,7 @@ constexpr SuiteTable kInitialTable = {{
     Called<&sAINotifier>(kAINotifierSuite, kAINotifierSuiteVersion),
     Uncalled<1>("AI Action Manager Suite", 1005),
     Called<&sAIAnnotator>(kAIAnnotatorSuite, kAIAnnotatorSuiteVersion),
-    Uncalled<3>("AI Annotator Drawer Suite", 1007),
+    Called<&sAIAnnotatorDrawer>(kAIAnnotatorDrawerSuite, kAIAnnotatorDrawerSuiteVersion),
     Uncalled<4>("AI Application Suite", 1003),
     Called<&sAIArtboard>(kAIArtboardSuite, kAIArtboardSuiteVersion),
     Called<&sAIArt>(kAIArtSuite, kAIArtSuiteVersion),
@@ -71,11 +74,11 @@ constexpr SuiteTable kInitialTable = {{
     Uncalled<13>("AI Block Suite", 1004),
     Uncalled<14>("AI Cloud Document Suite", 1001),
     Uncalled<15>("AI Cursor Snap Suite", 1016),
-    Uncalled<16>("AI Color Conversion Suite", 1010),
+    Called<&sAIColorConversion>(kAIColorConversionSuite, kAIColorConversionSuiteVersion),
     Uncalled<17>("AI Command Manager Suite", 1005),
     Uncalled<18>("AI Context Suite", 1010),
     Called<&sAICustomColor>(kAICustomColorSuite, kAICustomColorSuiteVersion),
-    Uncalled<20>("AI Data Filter Suite", 1009),
+    Called<&sAIDataFilter>(kAIDataFilterSuite, kAIDataFilterSuiteVersion),
     Called<&sAIDocument>(kAIDocumentSuite, kAIDocumentSuiteVersion),
     Called<&sAIDocumentView>(kAIDocumentViewSuite, kAIDocumentViewSuiteVersion),
     Uncalled<23>("AI Document List Suite", 1011),

@@ -34,6 +34,7 @@ class CutPlugin : public HMX_AIPlugin {
  private:
   AIErr Start(const SPMessageData& message);
   AIErr RequestStartupSuites();
+  void MakeTools();
   void MakeMenus();
 
   CutTool* tools[2] = {};                  // these belong to the table of tools

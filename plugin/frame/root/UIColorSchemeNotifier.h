@@ -8,6 +8,8 @@ namespace Vandrell::Corvane {
 class UIColorSchemeNotifier : public HMX_AINotifier {
  public:
   explicit UIColorSchemeNotifier(HMX_AIPlugin* owner);
+
+  AIErr Notify(const AINotifierMessage& message) override;
 };
 
 }  // namespace Vandrell::Corvane

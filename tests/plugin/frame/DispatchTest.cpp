@@ -53,7 +53,8 @@ struct LoggingNotifier : HMX_AINotifier {
 };
 
 struct LoggingTool : HMX_AITool {
-  LoggingTool(HMX_AIPlugin* owner, std::size_t handle, Log& list) : HMX_AITool(owner), log(list) {
+  LoggingTool(HMX_AIPlugin* owner, std::size_t handle, Log& list)
+      : HMX_AITool(owner, "logging", "Logging", 0, 1, nullptr), log(list) {
     tool = HandleOf<AIToolHandle>(handle);
   }
   AIErr EditOptions(const AIToolMessage&) override { return log.Add("EditOptions"); }

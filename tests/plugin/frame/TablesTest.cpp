@@ -27,6 +27,10 @@ struct Counted : Base {
   int& alive;
 };
 
+struct PlainTool : HMX_AITool {
+  explicit PlainTool(HMX_AIPlugin* owner) : HMX_AITool(owner, "name", "title", 0, 1, nullptr) {}
+};
+
 struct CountedMenu : Counted<HMX_AIMenu> {
   CountedMenu(HMX_AIPlugin* owner, int& counter) : Counted(counter, owner, "Help Menu", "title", 0) {}
   AIErr OnAdded() override { return ++added; }
@@ -37,7 +41,7 @@ TEST_F(Tables, RemovalOfWhatIsNotThereGivesItsCode) {
   int counter = 0;
   CountedMenu menu(plugin.get(), counter);
   HMX_AINotifier notifier(plugin.get(), "name", "type");
-  HMX_AITool tool(plugin.get());
+  PlainTool tool(plugin.get());
   EXPECT_EQ(plugin->RemoveMenu(&menu), 0x4572524D);
   EXPECT_EQ(plugin->RemoveNotifier(&notifier), 0x4572524E);
   EXPECT_EQ(plugin->RemoveTool(&tool), 0x45725254);
@@ -47,7 +51,7 @@ TEST_F(Tables, ShutdownDestroysEverything) {
   for (int i = 0; i < 5; ++i) {
     plugin->AddMenu(new CountedMenu(plugin.get(), alive));
     plugin->AddNotifier(new Counted<HMX_AINotifier>(alive, plugin.get(), "name", "type"));
-    plugin->AddTool(new Counted<HMX_AITool>(alive, plugin.get()));
+    plugin->AddTool(new Counted<PlainTool>(alive, plugin.get()));
   }
   EXPECT_EQ(alive, 15);
   SPMessageData head = Head();
@@ -79,7 +83,7 @@ TEST_F(Tables, ANotifierEnteredTwiceGoesAltogether) {
 TEST_F(Tables, WhoDestroysAnEntryLeavesNoTrace) {
   delete plugin->MakeMenu<CountedMenu>(plugin.get(), alive);
   delete plugin->MakeNotifier<Counted<HMX_AINotifier>>(alive, plugin.get(), "name", "type");
-  auto* tool = new Counted<HMX_AITool>(alive, plugin.get());
+  auto* tool = new Counted<PlainTool>(alive, plugin.get());
   plugin->AddTool(tool);
   delete tool;
   EXPECT_EQ(alive, 0);
@@ -90,11 +94,11 @@ TEST_F(Tables, WhoDestroysAnEntryLeavesNoTrace) {
 TEST_F(Tables, TenToolsAndNoMore) {
   HMX_AITool* tools[10];
   for (HMX_AITool*& tool : tools) {
-    tool = new HMX_AITool(plugin.get());
+    tool = new PlainTool(plugin.get());
     EXPECT_EQ(plugin->AddTool(tool), kNoErr);
   }
   EXPECT_EQ(plugin->AddTool(tools[3]), kNoErr) << "it is there already";
-  auto spare = std::make_unique<HMX_AITool>(plugin.get());
+  auto spare = std::make_unique<PlainTool>(plugin.get());
   EXPECT_EQ(plugin->AddTool(spare.get()), 0x45724154);
   EXPECT_EQ(plugin->RemoveTool(tools[3]), kNoErr);
   EXPECT_EQ(plugin->AddTool(spare.get()), kNoErr) << "the freed slot is used again";

@@ -1,0 +1,133 @@
+// What the host learns of a tool, and the pointer that goes with it.
+#include <filesystem>
+#include <fstream>
+
+#include "AIUser.h"
+#include "FramePlugin.h"
+#include "HMX_AITool.h"
+#include "IDToFile.h"
+
+namespace {
+
+// A bundle with the icons 16201 and 24001 in a light and a dark version, and half of 16203. What the toolkit
+// knows of bundles it keeps for the process, so this comes before all tests.
+class IconBundle : public testing::Environment {
+ public:
+  void SetUp() override {
+    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-tools-XXXXXX").string();
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    folder = pattern;
+    const auto resources = folder / "Contents/Resources";
+    for (const char* name : {"txt", "png", "svg"}) std::filesystem::create_directories(resources / name);
+    std::ofstream table(resources / "txt/IDToFile.txt");
+    for (const int id : {17201, 18201, 17203, 18203}) table << id << ".PNG " << id << ".png\n";
+    for (const int id : {25001, 26001}) table << id << ".SVG " << id << ".svg\n";
+    table.close();
+    for (const char* file :
+         {"png/17201.png", "png/18201.png", "png/17203.png", "svg/25001.svg", "svg/26001.svg"}) {
+      std::ofstream(resources / file) << "picture";
+    }
+    qRVADM::TheIDToFile(folder.string());
+  }
+  void TearDown() override { std::filesystem::remove_all(folder); }
+
+  std::filesystem::path folder;
+};
+
+IconBundle* const icons = static_cast<IconBundle*>(testing::AddGlobalTestEnvironment(new IconBundle));
+
+class Tool : public FrameTest {
+ protected:
+  Tool() {
+    record.bundle = icons->folder.string();
+    plugin->RequestSuite("AI Data Filter Suite");
+  }
+
+  const host::ToolRecord& Registered(std::size_t index) { return host.tools().all()[index]; }
+};
+
+TEST_F(Tool, GivesTheHostBothVersionsOfAnIconThatHasThem) {
+  const struct {
+    int iconID;
+    std::int32_t light, dark;
+    std::int8_t type;
+  } table[] = {
+      {16201, 17201, 18201, 2}, {16203, 16203, 16203, 2}, {24001, 25001, 26001, 1},
+      {23999, 23999, 23999, 2}, {24000, 24000, 24000, 1},
+  };
+  for (std::size_t i = 0; i < std::size(table); ++i) {
+    AIAddToolData data;
+    const HMX_AITool tool(plugin.get(), "tool", "Tool", 0, table[i].iconID, &data);
+    ASSERT_EQ(host.tools().all().size(), i + 1);
+    EXPECT_EQ(Registered(i).lightIcon, table[i].light) << table[i].iconID;
+    EXPECT_EQ(Registered(i).darkIcon, table[i].dark) << table[i].iconID;
+    EXPECT_EQ(data.iconType, table[i].type) << table[i].iconID;
+  }
+}
+
+TEST_F(Tool, StandsWhereItsDataSays) {
+  const HMX_AITool first(plugin.get(), "first", "First", kToolWantsToTrackCursorOption, 1, nullptr);
+  AIAddToolData data;
+  ASSERT_EQ(sAITool->GetToolNumberFromName("first", &data.sameGroupAs), kNoErr);
+  data.sameToolsetAs = data.sameGroupAs;
+  const HMX_AITool second(plugin.get(), "second", "Second", 0, 1, &data);
+  const HMX_AITool third(plugin.get(), "third", "Third", 0, 1, nullptr);
+  EXPECT_EQ(Registered(0).plugin, plugin->GetPluginRef());
+  EXPECT_EQ(Registered(0).title, "First");
+  EXPECT_EQ(Registered(0).tooltip, "First");
+  EXPECT_TRUE(Registered(0).tracksCursor);
+  EXPECT_FALSE(Registered(1).tracksCursor);
+  EXPECT_EQ(Registered(1).group, Registered(0).group);
+  EXPECT_EQ(Registered(1).toolset, Registered(0).toolset);
+  EXPECT_NE(Registered(2).group, Registered(0).group);
+  EXPECT_NE(Registered(2).toolset, Registered(0).toolset);
+  EXPECT_EQ(second.tool, Registered(1).handle);
+}
+
+TEST_F(Tool, ThatTheHostRefusesHasNoHandle) {
+  ASSERT_EQ(host.refusal().add("AI Tool Suite:AddTool"), "");
+  const HMX_AITool tool(plugin.get(), "tool", "Tool", 0, 1, nullptr);
+  EXPECT_EQ(tool.tool, nullptr);
+  EXPECT_EQ(host.tools().all().size(), 0U);
+}
+
+TEST_F(Tool, RecordsOfAnotherHostsTextsOrUnknownToolsAreRefused) {
+  const AIAddToolData plain;
+  AIAddToolData astray;
+  astray.sameGroupAs = 7;
+  AIToolHandle tool = nullptr;
+  const SPPluginRef self = plugin->GetPluginRef();
+  const auto add = [&](SPPluginRef ref, const char* name, const AIAddToolData* data) {
+    return sAITool->AddTool(ref, name, data, 0, &tool);
+  };
+  EXPECT_EQ(add(nullptr, "tool", &plain), kBadParameterErr);
+  EXPECT_EQ(add(reinterpret_cast<SPPluginRef>(&host), "tool", &plain), kBadParameterErr);
+  EXPECT_EQ(add(self, nullptr, &plain), kBadParameterErr);
+  EXPECT_EQ(add(self, "tool", nullptr), kBadParameterErr);
+  EXPECT_EQ(add(self, "tool", &astray), kBadParameterErr);
+  astray.sameGroupAs = kNoTool;
+  astray.sameToolsetAs = -1;
+  EXPECT_EQ(add(self, "tool", &astray), kBadParameterErr);
+  EXPECT_EQ(sAITool->AddTool(self, "tool", &plain, 0, nullptr), kBadParameterErr);
+  EXPECT_EQ(tool, nullptr);
+  EXPECT_EQ(add(self, "tool", &plain), kNoErr);
+  EXPECT_EQ(Registered(0).title, "") << "a text that was never set is an empty one";
+}
+
+TEST_F(Tool, ThePointerIsAPictureOfThePlugin) {
+  std::vector<std::int32_t> cursors;
+  host.onCursor = [&](const host::PluginRecord& owner, std::int32_t id) {
+    EXPECT_EQ(&owner, &record);
+    cursors.push_back(id);
+  };
+  ASSERT_EQ(host.refusal().add("AI User Suite:CreateCursorResourceMgr:1"), "");
+  EXPECT_EQ(plugin->SetCursor(16221), kSPCanceledByHostError);
+  ASSERT_EQ(host.refusal().add("AI User Suite:CreateCursorResourceMgr:2"), "");
+  EXPECT_EQ(plugin->SetCursor(16221), kNoErr);
+  EXPECT_EQ(plugin->SetCursor(16224), kNoErr) << "the second manager would be refused";
+  EXPECT_EQ(cursors, (std::vector<std::int32_t>{16221, 16224}));
+  plugin->EndApplication();
+  EXPECT_EQ(plugin->SetCursor(16221), kSPCanceledByHostError) << "the manager went with the application";
+}
+
+}  // namespace
