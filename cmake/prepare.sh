@@ -5,7 +5,7 @@ corvane_packages=(
   libexpat1-dev librsvg2-dev liblcms2-dev libboost-dev libcli11-dev nlohmann-json3-dev
   qtbase5-dev libqt5gui5 libqt5svg5-dev qttranslations5-l10n
   libgtest-dev libgmock-dev libbenchmark-dev gettext libgettextpo-dev
-  fonts-dejavu-core xvfb xauth
+  fonts-dejavu-core fonts-ipafont-gothic xvfb xauth
 )
 
 install_packages() {
