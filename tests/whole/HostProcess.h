@@ -9,40 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "ScratchFolder.h"
 #include "World.h"
 
 namespace host {
-
-// A folder that goes with the object.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    path_ = pattern;
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  std::string file(const std::string& name) const { return (path_ / name).string(); }
-  std::string write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ / name, std::ios::binary) << bytes;
-    return file(name);
-  }
-  bool has(const std::string& name) const { return std::filesystem::exists(path_ / name); }
-  std::size_t count() const {
-    std::size_t files = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(path_)) files += entry.exists() ? 1U : 0U;
-    return files;
-  }
-
- private:
-  std::filesystem::path path_;
-};
 
 struct ProcessResult {
   int code;

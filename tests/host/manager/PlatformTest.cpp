@@ -1,5 +1,6 @@
 // What plug-ins get from the operating system, in buffers of their own.
 #include "Platform.h"
+#include "ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -51,8 +52,8 @@ TEST(Platform, NormalFormStaysInItsBuffer) {
 }
 
 TEST(Platform, ResourcesAreFoundByPath) {
-  std::string pattern = (fs::temp_directory_path() / "platform-XXXXXX").string();
-  const fs::path root = mkdtemp(pattern.data());
+  const ScratchFolder scratch;
+  const fs::path& root = scratch.path;
   const fs::path resources = root / "Contents" / "Resources";
   fs::create_directories(resources / "de.lproj");
   std::ofstream(resources / "rv.asc") << "english";
@@ -81,7 +82,6 @@ TEST(Platform, ResourcesAreFoundByPath) {
   EXPECT_TRUE(CopyBundleResourcePath(root.c_str(), "rv", "asc", nullptr, path.data(), length + 1));
   EXPECT_FALSE(CopyBundleResourcePath(nullptr, "rv", "asc", nullptr, path.data(), path.size()));
   EXPECT_FALSE(CopyBundleResourcePath(root.c_str(), nullptr, "asc", nullptr, path.data(), path.size()));
-  fs::remove_all(root);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "AtomicFile.h"
+#include "ScratchFolder.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -18,15 +19,6 @@ namespace fs = std::filesystem;
 // A folder of its own for each test.
 class AtomicFile : public testing::Test {
  protected:
-  AtomicFile() {
-    std::string pattern = (fs::temp_directory_path() / "atomic-file-XXXXXX").string();
-    folder_ = ::mkdtemp(pattern.data());
-  }
-  ~AtomicFile() override {
-    std::error_code ignored;
-    fs::remove_all(folder_, ignored);
-  }
-
   fs::path at(const std::string& name) const { return folder_ / name; }
   std::size_t fileCount() const {
     return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
@@ -42,7 +34,8 @@ class AtomicFile : public testing::Test {
     return status.st_mode & 07777;
   }
 
-  fs::path folder_;
+  const ScratchFolder scratch_;
+  const fs::path folder_ = scratch_.path;
 };
 
 TEST_F(AtomicFile, WritesAndReadsAnyBytes) {

@@ -1,4 +1,5 @@
 #include "BundleLookup.h"
+#include "ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -15,20 +16,12 @@ namespace fs = std::filesystem;
 class Bundle {
  public:
   explicit Bundle(const std::vector<std::string>& places) {
-    std::string pattern = (fs::temp_directory_path() / "bundle-XXXXXX").string();
-    root_ = mkdtemp(pattern.data());
     fs::create_directories(resources());
     for (const std::string& place : places) add(place);
   }
-  Bundle(const Bundle&) = delete;
-  Bundle& operator=(const Bundle&) = delete;
-  ~Bundle() {
-    std::error_code ignored;
-    fs::remove_all(root_, ignored);
-  }
 
-  const fs::path& root() const { return root_; }
-  fs::path resources() const { return root_ / "Contents" / "Resources"; }
+  const fs::path& root() const { return scratch_.path; }
+  fs::path resources() const { return root() / "Contents" / "Resources"; }
 
  private:
   void add(const std::string& place) const {
@@ -39,7 +32,7 @@ class Bundle {
     }
   }
 
-  fs::path root_;
+  ScratchFolder scratch_;
 };
 
 TEST(BundleLookup, ABundleHasAResourceFolder) {

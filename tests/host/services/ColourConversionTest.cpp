@@ -7,7 +7,7 @@
 #include <random>
 
 #include "CmykProfileMaker.h"
-#include "ProfileFolder.h"
+#include "ScratchFolder.h"
 
 namespace host {
 namespace {
@@ -99,7 +99,7 @@ TEST(ColourConversion, TellsWhatTheDestinationCantShow) {
 
 // White that is a hair below 1 would show as 65534 of 65535.
 TEST(ColourConversion, WhiteAndBlackAreExact) {
-  const ProfileFolder folder;
+  const ScratchFolder folder;
   folder.write("press.icc", makeCmykProfile());
   const ColourSample white{1, 1, 1};
   const ColourSample black{};
@@ -114,7 +114,7 @@ TEST(ColourConversion, WhiteAndBlackAreExact) {
 }
 
 TEST(ColourConversion, InksFollowAProfile) {
-  const ProfileFolder folder;
+  const ScratchFolder folder;
   const auto file = folder.write("press/own.icc", makeCmykProfile());
   ColourConversion conversion({"/nonexistent", folder.path});
   EXPECT_EQ(conversion.cmykProfile(), file);
@@ -131,7 +131,7 @@ TEST(ColourConversion, InksFollowAProfile) {
 
 TEST(ColourConversion, TheFirstUsableProfileCounts) {
   const std::string good = makeCmykProfile();
-  const ProfileFolder folder;
+  const ScratchFolder folder;
   folder.write("a-half.icc", good.substr(0, good.size() / 2));
   folder.write("b-head.icc", good.substr(0, 128));
   folder.write("c-noise.icc", good.substr(0, 128) + std::string(4000, '\xFF'));
@@ -151,7 +151,7 @@ TEST(ColourConversion, ADamagedProfileDoesNoHarm) {
   for (int round = 0; round < 40; ++round) {
     std::string bytes = good;
     for (int i = 0; i < 8; ++i) bytes[20 + random() % 400] = static_cast<char>(random());
-    const ProfileFolder folder;
+    const ScratchFolder folder;
     folder.write("damaged.icc", bytes);
     ColourConversion conversion({folder.path});
     for (const ColourSpace destination : {kRGB, kLab, kGray}) {

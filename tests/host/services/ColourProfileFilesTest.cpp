@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "ProfileFolder.h"
+#include "ScratchFolder.h"
 #include "Variable.h"
 
 namespace host {
@@ -50,8 +50,8 @@ std::string head(const std::string& kind) {
 }
 
 TEST(CmykProfileFiles, AreToldByTheirHeadInAnOrderOfTheirOwn) {
-  const ProfileFolder first;
-  const ProfileFolder second;
+  const ScratchFolder first;
+  const ScratchFolder second;
   const fs::path late = first.write("z.icc", head("prtrCMYK"));
   const fs::path early = first.write("b/deep/er.icm", head("prtrCMYK") + "more");
   const fs::path other = second.write("a.icc", head("prtrCMYK"));
@@ -66,7 +66,7 @@ TEST(CmykProfileFiles, AreToldByTheirHeadInAnOrderOfTheirOwn) {
 }
 
 TEST(ReadColourProfile, GivesTheBytesOrNothing) {
-  const ProfileFolder folder;
+  const ScratchFolder folder;
   const std::string bytes("a\0b", 3);
   EXPECT_EQ(readColourProfile(folder.write("a.icc", bytes)), bytes);
   EXPECT_EQ(readColourProfile(folder.path / "missing.icc"), std::nullopt);

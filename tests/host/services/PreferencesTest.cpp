@@ -1,4 +1,5 @@
 #include "Preferences.h"
+#include "ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,14 +18,6 @@ using testing::HasSubstr;
 
 class PreferencesTest : public testing::Test {
  protected:
-  void SetUp() override {
-    std::string name = (fs::temp_directory_path() / "preferences-XXXXXX").string();
-    ASSERT_NE(mkdtemp(name.data()), nullptr);
-    folder_ = name;
-    file_ = (folder_ / "host" / "preferences.json").string();
-  }
-  void TearDown() override { fs::remove_all(folder_); }
-
   Preferences load() {
     Preferences preferences = Preferences::load(file_, complaint_);
     return preferences;
@@ -42,8 +35,9 @@ class PreferencesTest : public testing::Test {
     return std::distance(begin(all), end(all));
   }
 
-  fs::path folder_;
-  std::string file_;
+  const ScratchFolder scratch_;
+  const fs::path folder_ = scratch_.path;
+  const std::string file_ = (folder_ / "host" / "preferences.json").string();
   std::string complaint_;
 };
 

@@ -1,5 +1,6 @@
 // Which picture of a bundle lies behind an id.
 #include "ResourceTable.h"
+#include "ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -13,14 +14,6 @@ namespace fs = std::filesystem;
 
 class ResourceTableTest : public testing::Test {
  protected:
-  ResourceTableTest() {
-    std::string pattern = (fs::temp_directory_path() / "corvane-table-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    scratch = pattern;
-    resources = scratch / "a.bundle/Contents/Resources";
-  }
-  ~ResourceTableTest() override { fs::remove_all(scratch); }
-
   void write(const std::string& file, const std::string& bytes = "picture") {
     fs::create_directories((resources / file).parent_path());
     std::ofstream(resources / file, std::ios::binary) << bytes;
@@ -31,8 +24,9 @@ class ResourceTableTest : public testing::Test {
     return found ? fs::path(*found).lexically_relative(resources).string() : "none";
   }
 
-  fs::path scratch;
-  fs::path resources;
+  const ScratchFolder folder;
+  const fs::path scratch = folder.path;
+  const fs::path resources = scratch / "a.bundle/Contents/Resources";
 };
 
 TEST_F(ResourceTableTest, TakesTheVersionThatIsThere) {

@@ -9,24 +9,14 @@
 
 #include "AIDataFilter.h"
 #include "HostFixture.h"
+#include "ScratchFolder.h"
 
 namespace {
 
 class DataFilterSuiteTest : public HostFixture {
  protected:
-  DataFilterSuiteTest() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-filter-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    folder = pattern;
-  }
-  ~DataFilterSuiteTest() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
-  }
-
   std::string write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(folder / name, std::ios::binary) << bytes;
-    return folder / name;
+    return scratch.write(name, bytes);
   }
   AIDataFilterHandle newFilter(const std::string& path) {
     AIDataFilterHandle filter = nullptr;
@@ -42,7 +32,8 @@ class DataFilterSuiteTest : public HostFixture {
     return all;
   }
 
-  std::filesystem::path folder;
+  const ScratchFolder scratch;
+  const std::filesystem::path folder = scratch.path;
   const AIDataFilterSuite& filters =
       acquire<AIDataFilterSuite>(kAIDataFilterSuite, kAIDataFilterSuiteVersion);
 };

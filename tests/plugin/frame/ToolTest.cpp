@@ -1,11 +1,11 @@
 // What the host learns of a tool, and the pointer that goes with it.
-#include <filesystem>
-#include <fstream>
+#include <sstream>
 
 #include "AIUser.h"
 #include "FramePlugin.h"
 #include "HMX_AITool.h"
 #include "IDToFile.h"
+#include "ScratchFolder.h"
 
 namespace {
 
@@ -14,24 +14,19 @@ namespace {
 class IconBundle : public testing::Environment {
  public:
   void SetUp() override {
-    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-tools-XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    folder = pattern;
-    const auto resources = folder / "Contents/Resources";
-    for (const char* name : {"txt", "png", "svg"}) std::filesystem::create_directories(resources / name);
-    std::ofstream table(resources / "txt/IDToFile.txt");
+    const std::string resources = "Contents/Resources/";
+    std::ostringstream table;
     for (const int id : {17201, 18201, 17203, 18203}) table << id << ".PNG " << id << ".png\n";
     for (const int id : {25001, 26001}) table << id << ".SVG " << id << ".svg\n";
-    table.close();
+    scratch.write(resources + "txt/IDToFile.txt", table.str());
     for (const char* file :
          {"png/17201.png", "png/18201.png", "png/17203.png", "svg/25001.svg", "svg/26001.svg"}) {
-      std::ofstream(resources / file) << "picture";
+      scratch.write(resources + file, "picture");
     }
-    qRVADM::TheIDToFile(folder.string());
+    qRVADM::TheIDToFile(scratch.path.string());
   }
-  void TearDown() override { std::filesystem::remove_all(folder); }
 
-  std::filesystem::path folder;
+  const ScratchFolder scratch;
 };
 
 IconBundle* const icons = static_cast<IconBundle*>(testing::AddGlobalTestEnvironment(new IconBundle));
@@ -39,7 +34,7 @@ IconBundle* const icons = static_cast<IconBundle*>(testing::AddGlobalTestEnviron
 class Tool : public FrameTest {
  protected:
   Tool() {
-    record.bundle = icons->folder.string();
+    record.bundle = icons->scratch.path.string();
     plugin->RequestSuite("AI Data Filter Suite");
   }
 

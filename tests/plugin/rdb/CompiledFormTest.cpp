@@ -9,7 +9,7 @@
 #include "Listing.h"
 #include "Memory.h"
 #include "RDB_LoadCompiled.h"
-#include "Scratch.h"
+#include "ScratchFolder.h"
 
 namespace {
 
@@ -132,16 +132,16 @@ TEST(CompiledForm, IsReadUpToAnyCut) {
 }
 
 TEST(CompiledForm, IsReadFromFiles) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   // A text that no buffer holds.
   const std::string text(200000, 'x');
   const std::string path =
-      scratch.Write("file", kHead + Root(2) + Compiled({"a", text}) + Compiled({"b", "c"}));
+      scratch.write("file", kHead + Root(2) + Compiled({"a", text}) + Compiled({"b", "c"}));
   const RDB_Handle db = RDB_LoadCompiled(path.c_str());
   EXPECT_EQ(rdbError, kRDBNoError);
   EXPECT_TRUE(RDB_GetString(db.get(), "a").get() == text);
   EXPECT_STREQ(RDB_GetString(db.get(), "b").get(), "c");
-  EXPECT_EQ(RDB_LoadCompiled(scratch.Write("text.asc", "key : value of a text file").c_str()), nullptr);
+  EXPECT_EQ(RDB_LoadCompiled(scratch.write("text.asc", "key : value of a text file").c_str()), nullptr);
   EXPECT_EQ(rdbError, kRDBBadHead);
 }
 

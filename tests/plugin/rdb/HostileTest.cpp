@@ -9,7 +9,7 @@
 #include "Memory.h"
 #include "RDB_LoadCompiled.h"
 #include "RDB_LoadText.h"
-#include "Scratch.h"
+#include "ScratchFolder.h"
 #include "Soundness.h"
 
 namespace {
@@ -150,9 +150,9 @@ TEST(OutOfMemory, HasACodeOfItsOwnForAnEmptyComponent) {
 }
 
 TEST(OutOfMemory, StopsTheLoaders) {
-  const Scratch scratch;
-  const std::string text = scratch.Write("text.asc", kText);
-  const std::string compiled = scratch.Write(
+  const ScratchFolder scratch;
+  const std::string text = scratch.write("text.asc", kText);
+  const std::string compiled = scratch.write(
       "compiled", CompiledHead({"string", "a type of some length"}) + Compiled({"RVRDB", "", 1}) +
                       Compiled({"a name of some length", "a value of some length"}));
   testing::internal::CaptureStderr();

@@ -6,7 +6,7 @@
 
 #include "Listing.h"
 #include "RDB_LoadText.h"
-#include "Scratch.h"
+#include "ScratchFolder.h"
 
 namespace {
 
@@ -139,10 +139,10 @@ TEST(TextForm, TellsWhereASeparatorIsMissing) {
 }
 
 TEST(TextForm, IsReadFromFiles) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   const RDB_Handle db = RDB_Create();
-  RDB_LoadText(db.get(), scratch.Write("base.asc", "a : 1\nb : 2").c_str());
-  RDB_LoadText(db.get(), scratch.Write("local.asc", "b : 3\nc : 4").c_str());
+  RDB_LoadText(db.get(), scratch.write("base.asc", "a : 1\nb : 2").c_str());
+  RDB_LoadText(db.get(), scratch.write("local.asc", "b : 3\nc : 4").c_str());
   EXPECT_EQ(Listing(db.get()), "a=1, b=3, c=4");
   EXPECT_EQ(rdbError, kRDBNoError);
 }
@@ -150,20 +150,20 @@ TEST(TextForm, IsReadFromFiles) {
 // Everything that looks one byte ahead or goes one back, at every place around the edge of a buffer.
 TEST(TextForm, ReadsTheSameAcrossBuffers) {
   constexpr std::size_t kAroundBuffer = 64 * 1024 - 40;
-  const Scratch scratch;
+  const ScratchFolder scratch;
   for (std::size_t blanks = kAroundBuffer; blanks < kAroundBuffer + 44; ++blanks) {
     const std::string text = std::string(blanks, ' ') + R"(/**/ /k : a\101/b/* */+ c=d#e)";
     const RDB_Handle db = RDB_Create();
-    RDB_LoadText(db.get(), scratch.Write("file.asc", text).c_str());
+    RDB_LoadText(db.get(), scratch.write("file.asc", text).c_str());
     EXPECT_EQ(Listing(db.get()), "=d, /k=aA/bc") << blanks;
   }
 }
 
 TEST(TextForm, CountsLinesOfLongFiles) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   std::string text;
   for (int line = 1; line < 50000; ++line) text += "\"k\" : v\n";
-  const std::string path = scratch.Write("long.asc", text + "no separator\n" + text);
+  const std::string path = scratch.write("long.asc", text + "no separator\n" + text);
   const RDB_Handle db = RDB_Create();
   testing::internal::CaptureStderr();
   RDB_LoadText(db.get(), path.c_str());
@@ -172,10 +172,9 @@ TEST(TextForm, CountsLinesOfLongFiles) {
 }
 
 TEST(TextForm, OpensRegularFilesOnly) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   const RDB_Handle db = RDB_Create();
-  const std::string paths[] = {scratch.Folder().string(), (scratch.Folder() / "none.asc").string(), "",
-                               "/dev/zero"};
+  const std::string paths[] = {scratch.path.string(), (scratch.path / "none.asc").string(), "", "/dev/zero"};
   testing::internal::CaptureStderr();
   for (const std::string& path : paths) {
     RDB_LoadText(db.get(), path.c_str());

@@ -120,7 +120,7 @@ TEST_F(MissingKeys, AreRecordedOnceAsAFileToTranslate) {
     LocalizeItemText("Group", "Word");
     LookupResource(nullptr, nullptr, "Date.Formats.Short");
   }
-  EXPECT_EQ(Read(record),
+  EXPECT_EQ(scratch.read("missing.asc"),
             "\n\"Wait\\.\\.\\.\" : \"Wait...\"\n\"Fallback\" : \"Fallback\""
             "\n\"Group.Word\" : \"Word\"\n\"Date.Formats.Short\" : \"Short\"");
 }
@@ -128,11 +128,11 @@ TEST_F(MissingKeys, AreRecordedOnceAsAFileToTranslate) {
 TEST_F(MissingKeys, OfEarlierRunsAreNotRecordedAgain) {
   Texts("Hello : Hallo");
   Localize("Wait...");
-  const std::string recorded = Read(record);
+  const std::string recorded = scratch.read("missing.asc");
   FreeTextState();
   Start();
   Localize("Wait...");
-  EXPECT_EQ(Read(record), recorded);
+  EXPECT_EQ(scratch.read("missing.asc"), recorded);
 }
 
 TEST_F(MissingKeys, AreRecordedOnRequestOnly) {

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Scratch.h"
+#include "ScratchFolder.h"
 
 namespace texts {
 namespace {
@@ -44,14 +44,14 @@ AskedKeys Asked() {
 class SetOfTexts {
  public:
   SetOfTexts() {
-    scratch.Write("rv.asc", kEnglishDates);
-    scratch.Write("corvane.asc", kEnglishTexts);
-    scratch.Write("de.lproj/rv.asc", kGermanDates);
-    scratch.Write("de.lproj/corvane.asc", kGermanTexts);
+    scratch.write("rv.asc", kEnglishDates);
+    scratch.write("corvane.asc", kEnglishTexts);
+    scratch.write("de.lproj/rv.asc", kGermanDates);
+    scratch.write("de.lproj/corvane.asc", kGermanTexts);
   }
   std::vector<std::string> Findings() const { return CheckTexts(scratch.path, Asked()); }
 
-  Scratch scratch;
+  ScratchFolder scratch;
 };
 
 std::string Replaced(std::string text, const std::string& old, const std::string& now) {
@@ -110,7 +110,7 @@ const Fault kFaults[] = {
 TEST(CheckTexts, FindsEachFault) {
   for (const Fault& fault : kFaults) {
     const SetOfTexts texts;
-    texts.scratch.Write("de.lproj/corvane.asc", Replaced(kGermanTexts, fault.sound, fault.faulty));
+    texts.scratch.write("de.lproj/corvane.asc", Replaced(kGermanTexts, fault.sound, fault.faulty));
     EXPECT_THAT(texts.Findings(), Contains(HasSubstr(fault.finding))) << fault.name;
   }
 }
@@ -120,20 +120,20 @@ TEST(CheckTexts, FindsNothingAtTheLimits) {
   german = Replaced(german, "Öffnen", std::string(8188, 'x'));
   german = Replaced(german, "Rillen", "äöü" + std::string(28, 'x'));
   const SetOfTexts texts;
-  texts.scratch.Write("de.lproj/corvane.asc", german);
+  texts.scratch.write("de.lproj/corvane.asc", german);
   EXPECT_THAT(texts.Findings(), IsEmpty());
 }
 
 TEST(CheckTexts, FindsEnglishThatIsNotItsKey) {
   const SetOfTexts texts;
-  texts.scratch.Write("corvane.asc", Replaced(kEnglishTexts, ": \"Crease\"", ": \"Fold\""));
+  texts.scratch.write("corvane.asc", Replaced(kEnglishTexts, ": \"Crease\"", ": \"Fold\""));
   EXPECT_THAT(texts.Findings(),
               ElementsAre("corvane.asc:3: the text of \"Crease\" is not the text of its key"));
 }
 
 TEST(CheckTexts, FindsAFormatThatMeansNothing) {
   const SetOfTexts texts;
-  texts.scratch.Write("de.lproj/rv.asc", "Date.Formats.Short : \"%T.%M.%J\"\n");
+  texts.scratch.write("de.lproj/rv.asc", "Date.Formats.Short : \"%T.%M.%J\"\n");
   EXPECT_THAT(
       texts.Findings(),
       ElementsAre("de.lproj/rv.asc:1: the text of \"Date.Formats.Short\" is no format of a date or time"));
@@ -151,9 +151,9 @@ TEST(CheckTexts, FindsAMissingFile) {
 TEST(CheckTexts, AnAlertMustBeAFormat) {
   AskedKeys asked;
   AskFor(asked, {AskedKey::Kind::Alert, "100 %", "a.cpp:1"});
-  const Scratch scratch;
-  scratch.Write("rv.asc", "");
-  scratch.Write("corvane.asc", "\"100 %\" : \"100 %\"");
+  const ScratchFolder scratch;
+  scratch.write("rv.asc", "");
+  scratch.write("corvane.asc", "\"100 %\" : \"100 %\"");
   EXPECT_THAT(CheckTexts(scratch.path, asked),
               ElementsAre("corvane.asc:1: the text of \"100 %\" has a key that is no printf format"));
 }

@@ -12,7 +12,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "Scratch.h"
+#include "ScratchFolder.h"
 
 namespace texts {
 namespace {
@@ -95,8 +95,8 @@ void AskForMessages(AskedKeys& keys, AskedKey::Kind kind, const fs::path& messag
 }  // namespace
 
 void AskForSourceTexts(AskedKeys& keys, const fs::path& root, const std::string& folder) {
-  const Scratch scratch;
-  scratch.Write("sources", SourceList(root, folder));
+  const ScratchFolder scratch;
+  scratch.write("sources", SourceList(root, folder));
   const std::string messages = (scratch.path / "messages.po").string();
   for (const Askers& askers : kAskers) {
     std::vector<std::string> command = {"xgettext",

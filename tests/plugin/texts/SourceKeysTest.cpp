@@ -3,14 +3,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Scratch.h"
+#include "ScratchFolder.h"
 
 namespace texts {
 namespace {
 
 TEST(SourceKeys, AreTheLiteralsThatAreAskedFor) {
-  const Scratch scratch;
-  scratch.Write("plugin/deep/Menu.cpp",
+  const ScratchFolder scratch;
+  scratch.write("plugin/deep/Menu.cpp",
                 "void f() {\n"
                 "  Show(Localize(\"One\"), \"not this\", LocalizeItemText(\"Group\", \"Two.\"));\n"
                 "  // Localize(\"in a comment\")\n"
@@ -18,8 +18,8 @@ TEST(SourceKeys, AreTheLiteralsThatAreAskedFor) {
                 "             \"%s\", \"nor this\");\n"
                 "  Vandrell::MessageAlert(\"Four\\n\");\n"
                 "}\n");
-  scratch.Write("plugin/Texts.h", "constexpr const char* kFive = TextKey(\"Fünf\");\n");
-  scratch.Write("host/Other.cpp", "Localize(\"elsewhere\");\n");
+  scratch.write("plugin/Texts.h", "constexpr const char* kFive = TextKey(\"Fünf\");\n");
+  scratch.write("host/Other.cpp", "Localize(\"elsewhere\");\n");
   AskedKeys asked;
   AskForSourceTexts(asked, scratch.path, "plugin");
   std::vector<std::string> found;
@@ -33,8 +33,8 @@ TEST(SourceKeys, AreTheLiteralsThatAreAskedFor) {
 }
 
 TEST(SourceKeys, TheStricterUseCounts) {
-  const Scratch scratch;
-  scratch.Write("plugin/A.cpp", "ErrorAlert(\"Both\"); Localize(\"Both\");\n");
+  const ScratchFolder scratch;
+  scratch.write("plugin/A.cpp", "ErrorAlert(\"Both\"); Localize(\"Both\");\n");
   AskedKeys asked;
   AskForSourceTexts(asked, scratch.path, "plugin");
   ASSERT_EQ(asked.size(), 1U);

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 
@@ -15,6 +14,7 @@
 #include "Host.h"
 #include "IconPlugin.h"
 #include "SPBasic.h"
+#include "ScratchFolder.h"
 #include "Theme.h"
 
 // Lasts as long as the process, as does what the toolkit knows of it. Ids that its table has:
@@ -30,24 +30,18 @@ class TestBundle {
 
   TestBundle(const TestBundle&) = delete;
   TestBundle& operator=(const TestBundle&) = delete;
-  ~TestBundle() {
-    std::error_code ignored;
-    std::filesystem::remove_all(root, ignored);
-  }
 
   void Write(const std::string& file, const std::string& bytes) const {
-    std::filesystem::create_directories((resources / file).parent_path());
-    std::ofstream(resources / file, std::ios::binary) << bytes;
+    scratch.write(kResources + ("/" + file), bytes);
   }
 
-  std::filesystem::path root, resources;
+  static constexpr char kResources[] = "Test.bundle/Contents/Resources";
+
+  const ScratchFolder scratch;
+  const std::filesystem::path root = scratch.path, resources = root / kResources;
 
  private:
   TestBundle() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-icons-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    root = pattern;
-    resources = root / "Test.bundle/Contents/Resources";
     std::string table;
     const auto list = [&table](int first, int last, const std::string& before, const std::string& after) {
       for (int id = first; id <= last; ++id) {

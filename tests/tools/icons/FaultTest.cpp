@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "Scratch.h"
+#include "RunOn.h"
 
 namespace icons {
 namespace {
@@ -53,7 +53,7 @@ TEST(IconListFaults, AreToldWithLineAndReason) {
   };
   for (const FaultyList& faulty : cases) {
     SCOPED_TRACE(faulty.list);
-    const Scratch scratch;
+    const ScratchFolder scratch;
     scratch.write("dot.svg", kDot);
     scratch.write("dash.svg", kDot);
     scratch.write("icons.txt", faulty.list);
@@ -83,7 +83,7 @@ TEST(IconSourceFaults, AreToldWithFileAndReason) {
   };
   for (const auto& faulty : cases) {
     SCOPED_TRACE(faulty.svg);
-    const Scratch scratch;
+    const ScratchFolder scratch;
     scratch.write("dot.svg", faulty.svg);
     scratch.write("icons.txt", "16041 dot.svg 16 themed\n");
     expectOneSentence(runOn(scratch), "dot.svg: ", faulty.reason);
@@ -91,7 +91,7 @@ TEST(IconSourceFaults, AreToldWithFileAndReason) {
 }
 
 TEST(IconFileFaults, FoldersThatCannotBeUsedAreNamed) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   expectOneSentence(runOn(scratch), "icons.txt: ", "cannot be read");
   scratch.write("icons.txt", "16041 dot.svg 16 themed\n");
   scratch.write("dot.svg", kDot);

@@ -4,9 +4,10 @@
 #include <cstring>
 #include <map>
 
+#include "Files.h"
 #include "IconFiles.h"
 #include "Raster.h"
-#include "Scratch.h"
+#include "RunOn.h"
 
 namespace icons {
 namespace {
@@ -36,7 +37,7 @@ Picture pictureIn(const std::filesystem::path& file) {
 }
 
 TEST(IconFiles, EachVersionIsDrawnInItsInkAndListedByItsId) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   scratch.write("square.svg", kInkSquare);
   scratch.write("mark.svg", kInkSquare);
   scratch.write("icons.txt", "16041 square.svg 16 themed\r\n\n  # a remark\n25000 mark.svg 16 plain");
@@ -73,7 +74,7 @@ std::map<std::string, std::string> filesBelow(const std::filesystem::path& folde
 TEST(ShippedIcons, ComeOutAlikeEachTime) {
   const std::filesystem::path list = std::filesystem::path(CORVANE_SOURCE) / "plugin/icons/icons.txt";
   const std::vector<DrawnIcon> set = readIconSet(list);
-  const Scratch scratch;
+  const ScratchFolder scratch;
   writeIconFiles(set, scratch.path / "one");
   writeIconFiles(set, scratch.path / "two");
   const auto one = filesBelow(scratch.path / "one");
@@ -93,7 +94,7 @@ TEST(ShippedIcons, CoverTheIdsInUse) {
 }
 
 TEST(ShippedIcons, FillAContactSheet) {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   std::ostringstream errors;
   const std::filesystem::path list = std::filesystem::path(CORVANE_SOURCE) / "plugin/icons/icons.txt";
   ASSERT_EQ(run({list, "--sheet", scratch.path / "sheet.png"}, errors), 0) << errors.str();
