@@ -1,4 +1,4 @@
-// A picture of a drawing, drawn from its SVG as a browser would.
+// A drawing as a PNG file.
 #pragma once
 
 #include <filesystem>

@@ -1,11 +1,15 @@
 #include "CommandLine.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <iostream>
 #include <map>
 #include <utility>
 
+#include "DrawingFile.h"
 #include "Length.h"
+#include "PreferredLanguages.h"
+#include "ProgramName.h"
 
 namespace host {
 namespace {
@@ -27,10 +31,22 @@ CLI::Option* addLength(CLI::App& command, const std::string& name, double& point
       ->type_name("LENGTH");
 }
 
+void addLanguage(CLI::App& app, std::string& tag) {
+  app.add_option_function<std::string>(
+         "--language",
+         [&tag](const std::string& text) {
+           const std::optional<std::string> read = languageTag(text);
+           if (!read) throw CLI::ValidationError("\"" + text + "\" is no language; write de or pt-BR");
+           tag = *read;
+         },
+         "Language of the interface, such as de or pt-BR")
+      ->type_name("CODE");
+}
+
 void addCommonOptions(CLI::App& app, CommonOptions& common) {
   app.add_option("--plugin", common.plugin, "Bundle to load instead of the one beside the program")
       ->type_name("DIR");
-  app.add_option("--language", common.language, "Language of the interface, such as de")->type_name("CODE");
+  addLanguage(app, common.language);
   app.add_option("--theme", common.theme, "light or dark")->check(CLI::IsMember({"light", "dark"}));
   app.add_option("--pref", common.preferences, "A preference for this run")
       ->type_name("PREFIX/SUFFIX=VALUE")
@@ -40,6 +56,11 @@ void addCommonOptions(CLI::App& app, CommonOptions& common) {
       ->type_name("SUITE[:ENTRY[:N]]")
       ->allow_extra_args(false);
   app.add_option("--refuse-nth", common.refuseNth, "Refuse the n-th suite call of the run")->type_name("N");
+}
+
+void addWindow(CLI::App& app, WindowArguments& window) {
+  app.add_option("FILE", window.files, "SVG drawings to open in the window");
+  app.add_option("--screenshot", window.screenshot, "Write the window as PNG and end")->type_name("PNG");
 }
 
 void addMarks(CLI::App& app, MarksArguments& marks) {
@@ -80,6 +101,25 @@ void addInfo(CLI::App& app, InfoArguments& arguments) {
   command->add_flag("--json", arguments.json, "As one JSON object");
 }
 
+// A word that names no file is taken for a command that was meant. A sentence; empty if all is well.
+std::string complaintAbout(const WindowArguments& window) {
+  for (const std::string& file : window.files) {
+    std::error_code ignored;
+    const bool isWord = file.find_first_of("./") == std::string::npos && file != kStandardStream;
+    if (isWord && !std::filesystem::exists(file, ignored)) {
+      return "\"" + file + "\" is neither a command nor a drawing";
+    }
+  }
+  return {};
+}
+
+// What belongs to the window and was given to a command. A sentence; empty if all is well.
+std::string complaintAbout(const WindowArguments& window, const std::string& command) {
+  if (!window.files.empty()) return command + " takes no further file " + window.files.front();
+  if (!window.screenshot.empty()) return "--screenshot is for the window, not for " + command;
+  return {};
+}
+
 // A sentence on what is missing or contradictory; empty if all is well.
 std::string complaintAbout(const MarksArguments& marks) {
   if (marks.output.empty() && marks.outFolder.empty())
@@ -90,40 +130,52 @@ std::string complaintAbout(const MarksArguments& marks) {
   return {};
 }
 
+void refuse(const std::string& complaint) {
+  if (!complaint.empty()) throw CLI::ValidationError(complaint);
+}
+
 }  // namespace
 
 std::variant<CommandLine, ExitCode> parseCommandLine(int argc, char** argv) {
   CommonOptions common;
+  WindowArguments window;
   MarksArguments marks;
   ExportArguments exporting;
   InfoArguments info;
-  CLI::App app("Opens SVG drawings, runs a plug-in on them and saves them with nothing lost.",
-               "corvane-host");
+  CLI::App app(
+      "Opens SVG drawings in a window, or runs one command on them, and saves them with nothing lost.",
+      kProgramName);
   app.fallthrough();
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
   app.set_version_flag("--version", kVersionText);
+  addWindow(app, window);
   addCommonOptions(app, common);
   addMarks(app, marks);
   addExport(app, exporting);
   addInfo(app, info);
   try {
     app.parse(argc, argv);
+    const std::vector<CLI::App*> commands = app.get_subcommands();
+    const std::string command = commands.empty() ? std::string() : commands.front()->get_name();
+    if (!command.empty()) refuse(complaintAbout(window, command));
     CommandLine line{std::move(common), {}};
-    if (app.got_subcommand("marks")) {
-      const std::string complaint = complaintAbout(marks);
-      if (!complaint.empty()) throw CLI::ValidationError(complaint);
+    if (command == "marks") {
+      refuse(complaintAbout(marks));
       line.command = std::move(marks);
-    } else if (app.got_subcommand("export")) {
+    } else if (command == "export") {
       line.command = std::move(exporting);
-    } else {
+    } else if (command == "info") {
       line.command = std::move(info);
+    } else {
+      refuse(complaintAbout(window));
+      line.command = std::move(window);
     }
     return line;
   } catch (const CLI::Success& wantsText) {
     app.exit(wantsText, std::cout, std::cerr);
     return kExitDone;
   } catch (const CLI::ParseError& complaint) {
-    std::cerr << "corvane-host: " << complaint.what() << "; see corvane-host --help\n";
+    std::cerr << kProgramName << ": " << complaint.what() << "; see corvane-host --help\n";
     return kExitUsage;
   }
 }

@@ -17,8 +17,8 @@ enum ExitCode : int {
 };
 
 struct CommonOptions {
-  std::string plugin;  // folder of the bundle; empty: the one beside the program
-  std::string language;
+  std::string plugin;    // folder of the bundle; empty: the one beside the program
+  std::string language;  // a tag such as "pt-BR"; empty: as the environment says
   std::string theme = "light";
   std::vector<std::string> preferences;  // PREFIX/SUFFIX=VALUE, for this run only
   std::vector<std::string> refuse;
@@ -51,9 +51,15 @@ struct InfoArguments {
   bool json = false;
 };
 
+// Without a command the window opens.
+struct WindowArguments {
+  std::vector<std::string> files;
+  std::string screenshot;  // PNG to write before the program ends by itself; empty: it stays open
+};
+
 struct CommandLine {
   CommonOptions common;
-  std::variant<MarksArguments, ExportArguments, InfoArguments> command;
+  std::variant<WindowArguments, MarksArguments, ExportArguments, InfoArguments> command;
 };
 
 // Either what to do, or the exit code after help, the version or a complaint was printed.

@@ -2,11 +2,15 @@
 
 #include <iostream>
 
+#include "PreferredLanguages.h"
+#include "ProgramName.h"
+
 namespace host {
 namespace {
 
 struct Runner {
   const CommonOptions& common;
+  ExitCode operator()(const WindowArguments& arguments) const { return runWindow(arguments, common); }
   ExitCode operator()(const MarksArguments& arguments) const { return runMarks(arguments, common); }
   ExitCode operator()(const ExportArguments& arguments) const { return runExport(arguments); }
   ExitCode operator()(const InfoArguments& arguments) const { return runInfo(arguments); }
@@ -15,13 +19,14 @@ struct Runner {
 }  // namespace
 
 void complain(const std::string& sentence) {
-  std::cerr << "corvane-host: " << sentence << '\n';
+  std::cerr << kProgramName << ": " << sentence << '\n';
 }
 
 int runCommandLine(int argc, char** argv) {
   const auto parsed = parseCommandLine(argc, argv);
   if (const ExitCode* code = std::get_if<ExitCode>(&parsed)) return *code;
   const CommandLine& line = std::get<CommandLine>(parsed);
+  if (!line.common.language.empty()) preferLanguage(line.common.language);
   return std::visit(Runner{line.common}, line.command);
 }
 

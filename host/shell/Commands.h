@@ -5,6 +5,7 @@
 
 namespace host {
 
+ExitCode runWindow(const WindowArguments& arguments, const CommonOptions& common);
 ExitCode runMarks(const MarksArguments& arguments, const CommonOptions& common);
 ExitCode runExport(const ExportArguments& arguments);
 ExitCode runInfo(const InfoArguments& arguments);

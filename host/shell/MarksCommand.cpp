@@ -4,22 +4,19 @@
 #include <set>
 #include <utility>
 
+#include "AlertLine.h"
 #include "Bounds.h"
 #include "Commands.h"
 #include "DrawingFile.h"
 #include "DrawingReport.h"
 #include "ProductCommands.h"
 #include "Session.h"
+#include "Startup.h"
 
 namespace host {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path defaultBundle() {
-  std::error_code ignored;
-  return fs::read_symlink("/proc/self/exe", ignored).parent_path() / kMarksProduct.bundle;
-}
 
 // What one drawing came to.
 struct Outcome {
@@ -57,7 +54,7 @@ std::string asJson(const std::string& input, const std::string& output, const Ou
 class MarksRun {
  public:
   MarksRun(const MarksArguments& arguments, const CommonOptions& common)
-      : arguments_(arguments), common_(common), host_(loadPreferences(), userFolders()), session_(host_) {}
+      : arguments_(arguments), common_(common), host_(userPreferences(), userFolders()), session_(host_) {}
 
   ExitCode run() {
     if (const ExitCode code = prepare(); code != kExitDone) return code;
@@ -72,37 +69,16 @@ class MarksRun {
   }
 
  private:
-  Preferences loadPreferences() {
-    const Folders folders = userFolders();
-    if (folders.configuration.empty()) return {};
-    std::string complaint;
-    Preferences preferences = Preferences::load(folders.configuration + "/preferences.json", complaint);
-    if (!complaint.empty()) complain(complaint);
-    return preferences;
-  }
-
   ExitCode prepare() {
-    if (!common_.language.empty()) setenv("LANGUAGE", common_.language.c_str(), 1);
-    if (const std::string wrong = overlayOptions(); !wrong.empty()) {
+    for (const std::string& wrong : {overlayOptions(), armRefusals(host_, common_), listJobs()}) {
+      if (wrong.empty()) continue;
       complain(wrong);
       return kExitUsage;
     }
-    for (const std::string& rule : common_.refuse) {
-      if (const std::string wrong = host_.refusal().add(rule); !wrong.empty()) {
-        complain(wrong);
-        return kExitUsage;
-      }
-    }
-    host_.refusal().armNth(common_.refuseNth);
-    host_.showAlert = [](const Alert& alert) { std::cerr << alert.text << '\n'; };
-    if (const std::string clash = listJobs(); !clash.empty()) {
-      complain(clash);
-      return kExitUsage;
-    }
-    const fs::path bundle = common_.plugin.empty() ? defaultBundle() : fs::path(common_.plugin);
-    if (const std::string reason = session_.loadPlugin(bundle); !reason.empty()) {
+    host_.showAlert = [](const Alert& alert) { std::cerr << alertLine(alert) << '\n'; };
+    if (const std::string reason = loadPlugin(session_, common_); !reason.empty()) {
       complain(reason);
-      tellRefused();
+      refusals_.tell(host_);
       return kExitCouldNot;
     }
     return kExitDone;
@@ -119,10 +95,7 @@ class MarksRun {
     overlay(kMarksProduct.amountKey, arguments_.amount);
     overlay(kMarksProduct.shapeKey, static_cast<std::int32_t>(arguments_.shape) + 1);
     overlay(kMarksProduct.placementKey, static_cast<std::int32_t>(arguments_.placement) + 1);
-    for (const std::string& assignment : common_.preferences) {
-      if (std::string wrong = host_.preferences().overlayText(assignment); !wrong.empty()) return wrong;
-    }
-    return {};
+    return overlayPreferences(host_, common_);
   }
 
   // Pairs inputs with outputs. Empty, or a sentence on two drawings that would become one file.
@@ -152,7 +125,7 @@ class MarksRun {
     session_.openDocument(drawing.document, shownName(input), input == kStandardStream ? "" : input);
     const std::optional<SPErr> code = session_.chooseMenuItem(kMarksProduct.menuKey);
     session_.closeDocument(*drawing.document);
-    tellRefused();
+    refusals_.tell(host_);
     if (!code || *code != kSPNoError) {
       complain(code ? "the plug-in failed on " + shownName(input) + " with code " + std::to_string(*code)
                     : std::string("the plug-in offers no command \"") + kMarksProduct.menuKey + "\"");
@@ -191,17 +164,12 @@ class MarksRun {
     return quiet ? kExitDone : kExitWithMessages;
   }
 
-  void tellRefused() {
-    const std::vector<std::string>& refused = host_.refusal().refused();
-    for (; toldRefused_ < refused.size(); ++toldRefused_) complain("refused " + refused[toldRefused_]);
-  }
-
   const MarksArguments& arguments_;
   const CommonOptions& common_;
   Host host_;
   Session session_;
   std::vector<std::pair<std::string, std::string>> jobs_;  // input and output
-  std::size_t toldRefused_ = 0;
+  RefusalReport refusals_;
 };
 
 }  // namespace

@@ -2,31 +2,18 @@
 
 #include <QFont>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QPainterPath>
 #include <QString>
 #include <QStringList>
 #include <utility>
+
+#include "OffscreenApplication.h"
 
 namespace host {
 namespace {
 
 // Outlines are made at this size and scaled, so that hinting and rounding don't show.
 constexpr int kDesignPixels = 1000;
-
-// Qt would tell the user of folders that only a window needs.
-void dropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
-
-void ensureGuiApplication() {
-  if (QGuiApplication::instance() != nullptr) return;
-  const QtMessageHandler before = qInstallMessageHandler(dropMessage);
-  static int argc = 1;
-  static char name[] = "corvane-host";
-  static char* argv[] = {name, nullptr};
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  static const QGuiApplication application(argc, argv);
-  qInstallMessageHandler(before);
-}
 
 QFont fontOf(const TextRun& run) {
   QStringList families;
@@ -75,7 +62,7 @@ std::vector<PathGeometry> pathsOf(const QPainterPath& outline, double factor) {
 }  // namespace
 
 TextOutline QtTextOutliner::outline(const TextRun& run) const {
-  ensureGuiApplication();
+  ensureApplication();
   const QFont font = fontOf(run);
   const QString text = QString::fromStdString(run.text);
   const double factor = run.size / kDesignPixels;

@@ -5,8 +5,8 @@
 
 namespace host {
 
-// Needs a QGuiApplication; makes one on the offscreen platform at the first outline if there is none, so
-// that drawings without text don't pay for it.
+// Needs Qt's application; makes one without a display at the first outline if there is none, so that drawings
+// without text don't pay for it.
 class QtTextOutliner : public TextOutliner {
  public:
   TextOutline outline(const TextRun& run) const override;

@@ -1,10 +1,12 @@
 #include "Session.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "AIMenu.h"
 #include "AINotifier.h"
+#include "QtManager.h"
 #include "UndoStep.h"
 
 namespace host {
@@ -20,6 +22,15 @@ std::string codeText(SPErr code) {
     text += byte;
   }
   return "'" + text + "'";
+}
+
+// A menu's text without the dots that promise a dialog.
+std::string commandName(std::string text) {
+  constexpr std::string_view kDots = "...";
+  if (text.size() > kDots.size() && text.compare(text.size() - kDots.size(), kDots.size(), kDots) == 0) {
+    text.resize(text.size() - kDots.size());
+  }
+  return text;
 }
 
 }  // namespace
@@ -48,7 +59,7 @@ void Session::start() {
 OpenDocument& Session::openDocument(std::shared_ptr<Document> document, std::string title, std::string file) {
   OpenDocument& open = host_.documents().open(std::move(document), std::move(title), std::move(file));
   notify(kAIDocumentOpenedNotifier, open.handle());
-  notify(kAIDocumentChangedNotifier);
+  notifyOfCurrentDocument();
   return open;
 }
 
@@ -60,21 +71,48 @@ void Session::closeDocument(const Document& document) {
   const AIDocumentHandle handle = (*found)->handle();
   host_.documents().close(document);
   notify(kAIDocumentClosedNotifier, handle);
-  notify(kAIDocumentChangedNotifier);
+  notifyOfCurrentDocument();
+}
+
+void Session::makeCurrent(const Document& document) {
+  if (host_.currentDocument() == &document) return;
+  host_.documents().setCurrent(document);
+  notifyOfCurrentDocument();
+}
+
+bool Session::takesCommands() const {
+  return RVADMQtManager::QtManager::DialogCount() == 0 && !host_.alertIsUp();
+}
+
+std::optional<SPErr> Session::chooseMenuItem(AIMenuItemHandle handle) {
+  const MenuItem* item = host_.menus().items().find(handle);
+  if (item == nullptr || !item->enabledIn(host_.menuState()) || !takesCommands()) return std::nullopt;
+  AIMenuMessage message{};
+  message.menuItem = handle;
+  const SPPluginRef plugin = item->plugin;
+  const std::string step = commandName(item->text);
+  updateMenuItem(handle);
+  return send(plugin, kCallerAIMenu, kSelectorAIGoMenuItem, message.d, step);
 }
 
 std::optional<SPErr> Session::chooseMenuItem(const std::string& key) {
   for (const MenuItem& item : host_.menus().items()) {
-    if (item.key != key) continue;
-    if (!item.enabledIn(host_.menuState())) return std::nullopt;
-    AIMenuMessage message{};
-    message.menuItem = item.handle;
-    const SPPluginRef plugin = item.plugin;
-    const std::string step = item.text;
-    if (item.wantsUpdate) send(plugin, kCallerAIMenu, kSelectorAIUpdateMenuItem, message.d);
-    return send(plugin, kCallerAIMenu, kSelectorAIGoMenuItem, message.d, step);
+    if (item.key == key) return chooseMenuItem(item.handle);
   }
   return std::nullopt;
+}
+
+void Session::updateMenuItem(AIMenuItemHandle handle) {
+  const MenuItem* item = host_.menus().items().find(handle);
+  if (item == nullptr || !item->wantsUpdate || !takesCommands()) return;
+  AIMenuMessage message{};
+  message.menuItem = handle;
+  send(item->plugin, kCallerAIMenu, kSelectorAIUpdateMenuItem, message.d);
+}
+
+void Session::notifyOfCurrentDocument() {
+  OpenDocument* const current = host_.documents().current();
+  notify(kAIDocumentChangedNotifier, current == nullptr ? nullptr : current->handle());
 }
 
 void Session::shutdown() {

@@ -30,10 +30,16 @@ class Session {
 
   OpenDocument& openDocument(std::shared_ptr<Document> document, std::string title, std::string file);
   void closeDocument(const Document& document);
+  void makeCurrent(const Document& document);  // must be open
 
-  // Chooses the item of this key as a user would. Nullopt if there is no such item or it is disabled;
-  // else the plug-in's result code.
-  std::optional<SPErr> chooseMenuItem(const std::string& key);
+  // False while a plug-in's dialog or an alert waits for its answer: until then no command reaches a plug-in.
+  bool takesCommands() const;
+  // Chooses an item as a user would. Nullopt if there is no such item, it is disabled, or no command may
+  // reach a plug-in now; else the plug-in's result code.
+  std::optional<SPErr> chooseMenuItem(AIMenuItemHandle handle);
+  std::optional<SPErr> chooseMenuItem(const std::string& key);  // the first item of this key
+  // To be called before an item is shown: its plug-in may check it or not.
+  void updateMenuItem(AIMenuItemHandle handle);
 
   // Tells every plug-in; safe to call twice.
   void shutdown();
@@ -45,6 +51,8 @@ class Session {
   void notify(const char* type, void* data = nullptr);
 
  private:
+  void notifyOfCurrentDocument();
+
   struct LoadedPlugin {
     SPPluginRef ref;
     PluginBundle bundle;

@@ -1,0 +1,128 @@
+#include "SvgPicture.h"
+
+#include <cairo.h>
+#include <librsvg/rsvg.h>
+
+#include <charconv>
+#include <utility>
+
+#include "Geometry.h"
+
+namespace host {
+namespace {
+
+struct ObjectUnref {
+  void operator()(void* object) const { g_object_unref(object); }
+};
+struct SurfaceDestroy {
+  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
+};
+struct ContextDestroy {
+  void operator()(cairo_t* context) const { cairo_destroy(context); }
+};
+using RsvgPointer = std::unique_ptr<RsvgHandle, ObjectUnref>;
+using SurfacePointer = std::unique_ptr<cairo_surface_t, SurfaceDestroy>;
+using ContextPointer = std::unique_ptr<cairo_t, ContextDestroy>;
+
+std::string takeMessage(GError* error) {
+  std::string text = error != nullptr ? error->message : "it could not be drawn";
+  g_clear_error(&error);
+  while (!text.empty() && (text.back() == '\n' || text.back() == '.')) text.pop_back();
+  return text;
+}
+
+std::string number(double value) {
+  char buffer[32];
+  return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
+}
+
+void setRootAttribute(const SvgSource& source, std::vector<SvgEdit>& edits, std::string_view name,
+                      const std::string& value) {
+  if (const auto range = source.rawAttribute(source.root(), name)) {
+    edits.push_back({range->begin, range->end, value});
+    return;
+  }
+  const SvgNode& root = source.node(source.root());
+  std::size_t at = root.tagEnd - 1;
+  if (source.bytes()[at - 1] == '/') --at;
+  edits.push_back({at, at, " " + std::string(name) + "=\"" + value + "\""});
+}
+
+// The root element shows the first artboard only. With several, its view is widened to all of them; with
+// one it stays as it is, since sizes in percent refer to it.
+std::string showAllArtboards(const SvgDrawing& drawing, std::string svg) {
+  AIRealMatrix rootFromDocument{};
+  if (drawing.document->state().artboards.size() < 2) return svg;
+  if (!invert(drawing.documentFromRoot, rootFromDocument)) return svg;
+  auto parsed = SvgSource::parse(std::move(svg));
+  const auto& source = *std::get<std::unique_ptr<SvgSource>>(parsed);
+  const AIRealRect all = unionOfArtboards(*drawing.document);
+  const AIRealPoint from = apply(rootFromDocument, {all.left, all.top});
+  const AIRealPoint to = apply(rootFromDocument, {all.right, all.bottom});
+  std::vector<SvgEdit> edits;
+  setRootAttribute(
+      source, edits, "viewBox",
+      number(from.x) + " " + number(from.y) + " " + number(to.x - from.x) + " " + number(to.y - from.y));
+  setRootAttribute(source, edits, "width", number(all.right - all.left) + "pt");
+  setRootAttribute(source, edits, "height", number(all.top - all.bottom) + "pt");
+  setRootAttribute(source, edits, "preserveAspectRatio", "none");
+  return source.splice(std::move(edits));
+}
+
+RsvgPointer loadSvg(const std::string& svg, const std::filesystem::path& file, GError** error) {
+  GInputStream* stream =
+      g_memory_input_stream_new_from_data(svg.data(), static_cast<gssize>(svg.size()), nullptr);
+  GFile* base = file.empty() ? nullptr : g_file_new_for_path(std::filesystem::absolute(file).c_str());
+  RsvgPointer handle(
+      rsvg_handle_new_from_stream_sync(stream, base, RSVG_HANDLE_FLAG_UNLIMITED, nullptr, error));
+  g_object_unref(stream);
+  if (base != nullptr) g_object_unref(base);
+  return handle;
+}
+
+}  // namespace
+
+struct SvgPicture::Handle {
+  RsvgPointer rsvg;
+};
+
+SvgPicture::SvgPicture(std::unique_ptr<Handle> handle, const AIRealRect& bounds)
+    : handle_(std::move(handle)), bounds_(bounds) {}
+SvgPicture::SvgPicture(SvgPicture&&) noexcept = default;
+SvgPicture& SvgPicture::operator=(SvgPicture&&) noexcept = default;
+SvgPicture::~SvgPicture() = default;
+
+std::variant<SvgPicture, std::string> SvgPicture::load(const SvgDrawing& drawing, std::string svg,
+                                                       const std::filesystem::path& file) {
+  const std::string shown = showAllArtboards(drawing, std::move(svg));
+  GError* error = nullptr;
+  auto handle = std::make_unique<Handle>(Handle{loadSvg(shown, file, &error)});
+  if (!handle->rsvg) return takeMessage(error);
+  return SvgPicture(std::move(handle), unionOfArtboards(*drawing.document));
+}
+
+std::string SvgPicture::draw(const PixelBuffer& pixels, const PixelRect& place) const {
+  const SurfacePointer surface(cairo_image_surface_create_for_data(
+      pixels.bytes, CAIRO_FORMAT_ARGB32, pixels.width, pixels.height, pixels.stride));
+  const ContextPointer context(cairo_create(surface.get()));
+  cairo_rectangle(context.get(), place.x, place.y, place.width, place.height);
+  cairo_clip(context.get());
+  cairo_set_source_rgb(context.get(), 1, 1, 1);
+  cairo_paint(context.get());
+  const RsvgRectangle viewport{place.x, place.y, place.width, place.height};
+  GError* error = nullptr;
+  if (!rsvg_handle_render_document(handle_->rsvg.get(), context.get(), &viewport, &error)) {
+    return takeMessage(error);
+  }
+  cairo_surface_flush(surface.get());
+  const cairo_status_t status = cairo_status(context.get());
+  return status == CAIRO_STATUS_SUCCESS ? std::string() : cairo_status_to_string(status);
+}
+
+AIRealRect unionOfArtboards(const Document& document) {
+  AIRealRect all = kEmptyRect;
+  for (const Artboard& artboard : document.state().artboards) all = unite(all, artboard.position);
+  return all;
+}
+
+}  // namespace host

@@ -1,0 +1,13 @@
+// Alerts as boxes over the window.
+#pragma once
+
+#include "Host.h"
+
+class QWidget;
+
+namespace host {
+
+// Returns when the user has answered. `parent` is the window that waits for the answer; null: none does.
+void showAlertBox(const Alert& alert, QWidget* parent);
+
+}  // namespace host

@@ -1,0 +1,26 @@
+#include "OffscreenApplication.h"
+
+#include <QApplication>
+
+#include "ProgramName.h"
+
+namespace host {
+namespace {
+
+// Qt would tell the user of folders that only a window needs.
+void dropMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
+
+}  // namespace
+
+void ensureApplication() {
+  if (QCoreApplication::instance() != nullptr) return;
+  const QtMessageHandler before = qInstallMessageHandler(dropMessage);
+  static int argc = 1;
+  static std::string name = kProgramName;
+  static char* argv[] = {name.data(), nullptr};
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  static const QApplication application(argc, argv);
+  qInstallMessageHandler(before);
+}
+
+}  // namespace host

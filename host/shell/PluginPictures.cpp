@@ -1,0 +1,65 @@
+#include "PluginPictures.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmap>
+
+#include "Host.h"
+#include "ThemePalette.h"
+
+namespace host {
+namespace {
+
+constexpr int kArrowSide = 20;  // pixels
+
+// Null if there is none. A picture in single resolution where a doubled one was asked for says so.
+QPixmap pictureOf(const ResourceTable& pictures, std::int32_t id, ResourceTable::Version version) {
+  const auto file = pictures.picture(id, version);
+  if (!file) return {};
+  QPixmap pixmap = QPixmap::fromImage(QImage(QString::fromStdString(*file)));
+  const bool doubled = version.doubled && pictures.picture(id, {version.dark, false}) != file;
+  pixmap.setDevicePixelRatio(doubled ? 2 : 1);
+  return pixmap;
+}
+
+QPainterPath arrow() {
+  const QVector<QPointF> corners{{5, 2},   {5, 16},    {8.6, 12.8}, {10.9, 18},
+                                 {13, 17}, {10.8, 12}, {15.4, 11.8}};
+  QPainterPath path;
+  path.addPolygon(corners);
+  path.closeSubpath();
+  return path;
+}
+
+QPixmap arrowPicture(const QColor& ink, int scale) {
+  QPixmap pixmap(QSize(kArrowSide, kArrowSide) * scale);
+  pixmap.fill(Qt::transparent);
+  pixmap.setDevicePixelRatio(scale);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillPath(arrow(), ink);
+  return pixmap;
+}
+
+}  // namespace
+
+QIcon toolIcon(Host& host, const ToolRecord& tool, Theme theme) {
+  const bool dark = theme == Theme::Dark;
+  QIcon icon;
+  for (const bool doubled : {false, true}) {
+    const std::int32_t id = dark ? tool.darkIcon : tool.lightIcon;
+    const QPixmap pixmap = tool.plugin == nullptr
+                               ? arrowPicture(iconInk(theme), doubled ? 2 : 1)
+                               : pictureOf(host.pictures(tool.plugin), id, {dark, doubled});
+    if (!pixmap.isNull()) icon.addPixmap(pixmap);
+  }
+  return icon;
+}
+
+QCursor pictureCursor(const ResourceTable& pictures, std::int32_t id, double ratio) {
+  const QPixmap pixmap = pictureOf(pictures, id, {false, ratio > 1});
+  return pixmap.isNull() ? QCursor(Qt::CrossCursor) : QCursor(pixmap);
+}
+
+}  // namespace host

@@ -1,0 +1,23 @@
+// Icons and cursors of tools, as sharp as the display.
+#pragma once
+
+#include <QCursor>
+#include <QIcon>
+#include <cstdint>
+
+#include "Theme.h"
+
+namespace host {
+
+class Host;
+class ResourceTable;
+struct ToolRecord;
+
+// In single and double resolution, for the ground of the theme. The application's own tools share an arrow;
+// a plug-in's tool without a picture has none.
+QIcon toolIcon(Host& host, const ToolRecord& tool, Theme theme);
+
+// The hot spot is the middle of the picture; without a picture it is a cross. `ratio`: device pixels a pixel.
+QCursor pictureCursor(const ResourceTable& pictures, std::int32_t id, double ratio);
+
+}  // namespace host

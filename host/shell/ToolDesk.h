@@ -1,0 +1,69 @@
+// The tools at work in the window: palette, pointer, cursor, annotations and info display.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <tuple>
+
+#include "ToolMessages.h"
+#include "ViewEvents.h"
+
+class QMainWindow;
+
+namespace host {
+
+class InfoDisplay;
+class ToolPalette;
+struct OpenDocument;
+struct PluginRecord;
+struct ToolRecord;
+
+class ToolDesk : public ViewEvents {
+ public:
+  struct Surroundings {
+    std::function<DrawingView*(const OpenDocument&)> viewOf;  // null if the document has no view
+    // After a plug-in was at work for the user, who may see another drawing now.
+    std::function<void(bool drawingHasChanged)> done;
+    // Then, if it answered with a code and told the user nothing: the tool's title and the code.
+    std::function<void(const std::string& title, SPErr code)> failed;
+  };
+
+  // Adds a Select tool to the host, selects it, and puts its palette and display into `window`. The other
+  // objects, the window among them, must outlive it.
+  ToolDesk(QMainWindow& window, Host& host, Session& session, Surroundings surroundings);
+  ~ToolDesk() override;
+
+  // To be called when tools may have been added or the theme has changed.
+  void refresh();
+
+  void pointerMoved(DrawingView& view, AIRealPoint point) override;
+  void pointerPressed(DrawingView& view, AIRealPoint point) override;
+  void pointerDragged(DrawingView& view, AIRealPoint point) override;
+  void pointerReleased(DrawingView& view, AIRealPoint point) override;
+  void paintOver(DrawingView& view, AnnotationCanvas& canvas) override;
+  void aboutToMove(DrawingView& view) override;
+
+ private:
+  using ShownCursor = std::tuple<const DrawingView*, SPPluginRef, std::int32_t, double>;
+
+  void addSelectTool();
+  void followHost();
+  void selectionChanged();
+  void showInfo();
+  void showCursor(const PluginRecord& plugin, std::int32_t id);
+  void editOptions(AIToolHandle tool);
+  // Has the plug-in of the tool at work, by a message that may be none.
+  void work(const ToolRecord* tool, const std::function<std::optional<SPErr>()>& send);
+  DrawingView* currentView() const;
+
+  Host& host_;
+  Session& session_;
+  Surroundings surroundings_;
+  ToolMessages messages_;
+  ToolPalette* palette_;
+  InfoDisplay* info_;
+  ShownCursor cursor_{};
+};
+
+}  // namespace host

@@ -1,0 +1,142 @@
+#include <QApplication>
+#include <QBuffer>
+#include <QDeadlineTimer>
+#include <QWindow>
+#include <clocale>
+#include <cstdlib>
+#include <iostream>
+
+#include "AlertLine.h"
+#include "Commands.h"
+#include "Display.h"
+#include "DrawingFile.h"
+#include "KeyModifiers.h"
+#include "MainWindow.h"
+#include "Platform.h"
+#include "ProgramName.h"
+#include "QtLanguage.h"
+#include "Session.h"
+#include "Startup.h"
+#include "Theme.h"
+
+namespace host {
+namespace {
+
+constexpr char kNoDisplay[] =
+    "there is no display to open a window on; the commands marks, export and info work without one";
+constexpr int kMillisecondsToAppear = 3000;
+
+// Qt ends the process when the display does not answer.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg) return;
+  complain(kNoDisplay);
+  std::_Exit(kExitCouldNot);
+}
+
+std::uint32_t heldKeys() {
+  const Qt::KeyboardModifiers held = QGuiApplication::queryKeyboardModifiers();
+  std::uint32_t bits = 0;
+  if (held.testFlag(Qt::ShiftModifier)) bits |= kShiftKeyModifier;
+  if (held.testFlag(Qt::AltModifier)) bits |= kOptionKeyModifier;
+  if (held.testFlag(Qt::ControlModifier)) bits |= kCommandKeyModifier;
+  return bits;
+}
+
+class HeldKeys {
+ public:
+  HeldKeys() { setKeyModifierSource(heldKeys); }
+  HeldKeys(const HeldKeys&) = delete;
+  HeldKeys& operator=(const HeldKeys&) = delete;
+  ~HeldKeys() { setKeyModifierSource(nullptr); }
+};
+
+class WindowRun {
+ public:
+  WindowRun(const WindowArguments& arguments, const CommonOptions& common)
+      : arguments_(arguments), common_(common), host_(userPreferences(), userFolders()), session_(host_) {}
+
+  ExitCode run() {
+    for (const std::string& wrong : {overlayPreferences(host_, common_), armRefusals(host_, common_)}) {
+      if (wrong.empty()) continue;
+      complain(wrong);
+      return kExitUsage;
+    }
+    MainWindow window(host_, session_, dialogFileChooser());
+    window.onCommandDone = [this] { refusals_.tell(host_); };
+    return arguments_.screenshot.empty() ? stayOpen(window) : takePicture(window);
+  }
+
+ private:
+  // What went wrong, a sentence each.
+  std::vector<std::string> start(MainWindow& window) {
+    std::vector<std::string> complaints;
+    if (std::string reason = loadPlugin(session_, common_); !reason.empty()) {
+      complaints.push_back(std::move(reason));
+    }
+    refusals_.tell(host_);
+    session_.start();
+    window.show();
+    for (std::string& reason : window.openFiles(arguments_.files)) complaints.push_back(std::move(reason));
+    return complaints;
+  }
+
+  ExitCode stayOpen(MainWindow& window) {
+    window.tell(start(window));
+    const int code = QApplication::exec();
+    session_.shutdown();
+    if (const std::string reason = host_.preferences().save(); !reason.empty()) complain(reason);
+    return code == 0 ? kExitDone : kExitCouldNot;
+  }
+
+  // Nobody is there to answer boxes, and nothing is stored.
+  ExitCode takePicture(MainWindow& window) {
+    host_.showAlert = [](const Alert& alert) { std::cerr << alertLine(alert) << '\n'; };
+    std::vector<std::string> complaints = start(window);
+    const QDeadlineTimer deadline(kMillisecondsToAppear);
+    while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
+    }
+    QCoreApplication::processEvents();
+    QByteArray png;
+    QBuffer buffer(&png);
+    window.grab().toImage().save(&buffer, "PNG");
+    const std::string_view bytes(png.constData(), static_cast<std::size_t>(png.size()));
+    if (std::string reason = saveBytes(arguments_.screenshot, bytes); !reason.empty()) {
+      complaints.push_back(std::move(reason));
+    }
+    for (const std::string& sentence : complaints) complain(sentence);
+    return complaints.empty() ? kExitDone : kExitCouldNot;
+  }
+
+  const WindowArguments& arguments_;
+  const CommonOptions& common_;
+  Host host_;
+  Session session_;
+  RefusalReport refusals_;
+};
+
+}  // namespace
+
+ExitCode runWindow(const WindowArguments& arguments, const CommonOptions& common) {
+  if (!hasDisplay()) {
+    complain(kNoDisplay);
+    return kExitCouldNot;
+  }
+  QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+  QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+  const QtMessageHandler before = qInstallMessageHandler(endWithoutDisplay);
+  int argc = 1;
+  std::string name = kProgramName;
+  char* argv[] = {name.data(), nullptr};
+  QApplication application(argc, argv);
+  qInstallMessageHandler(before);
+  std::setlocale(LC_NUMERIC,
+                 "C");  // Qt has taken over the user's locale, which must not reach numbers in files
+  QGuiApplication::setApplicationDisplayName(kProgramName);
+  speakPreferredLanguage(application);
+  setTheme(common.theme == "dark" ? Theme::Dark : Theme::Light);
+  const HeldKeys keys;
+  return WindowRun(arguments, common).run();
+}
+
+}  // namespace host

@@ -1,0 +1,87 @@
+#include "Workspace.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "DrawingFile.h"
+#include "Host.h"
+#include "Session.h"
+
+namespace host {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string absoluteName(const std::string& file) {
+  std::error_code error;
+  const fs::path path = fs::absolute(file, error);
+  return error ? file : path.lexically_normal().string();
+}
+
+std::string titleOf(const std::string& file) {
+  return file == kStandardStream ? shownName(file) : fs::path(file).filename().string();
+}
+
+}  // namespace
+
+Workspace::~Workspace() {
+  while (!drawings_.empty()) close(*drawings_.back());
+}
+
+std::variant<OpenDrawing*, std::string> Workspace::open(const std::string& file) {
+  if (OpenDrawing* already = drawingOf(file)) {
+    makeCurrent(*already);
+    return already;
+  }
+  auto read = openDrawing(file);
+  if (std::string* reason = std::get_if<std::string>(&read)) return std::move(*reason);
+  auto opened = std::make_unique<OpenDrawing>();
+  opened->drawing = std::move(std::get<SvgDrawing>(read));
+  opened->shown = &session_.openDocument(opened->drawing.document, titleOf(file),
+                                         file == kStandardStream ? std::string() : absoluteName(file));
+  opened->savedState = opened->document().stateMark();
+  drawings_.push_back(std::move(opened));
+  return drawings_.back().get();
+}
+
+std::string Workspace::save(OpenDrawing& drawing, const std::string& file) {
+  const std::string target = absoluteName(file);
+  if (std::string reason = saveBytes(target, writeSvg(drawing.drawing)); !reason.empty()) return reason;
+  drawing.shown->file = target;
+  drawing.shown->title = titleOf(target);
+  drawing.savedState = drawing.document().stateMark();
+  return {};
+}
+
+void Workspace::close(const OpenDrawing& drawing) {
+  const auto found = std::find_if(drawings_.begin(), drawings_.end(),
+                                  [&](const auto& candidate) { return candidate.get() == &drawing; });
+  if (found == drawings_.end()) return;
+  session_.closeDocument(drawing.document());
+  drawings_.erase(found);
+}
+
+void Workspace::makeCurrent(const OpenDrawing& drawing) {
+  session_.makeCurrent(drawing.document());
+}
+
+OpenDrawing* Workspace::current() const {
+  const Document* current = host_.currentDocument();
+  for (const auto& drawing : drawings_) {
+    if (drawing->drawing.document.get() == current) return drawing.get();
+  }
+  return nullptr;
+}
+
+OpenDrawing* Workspace::drawingOf(const std::string& file) const {
+  for (const auto& drawing : drawings_) {
+    std::error_code ignored;
+    const std::string& own = drawing->shown->file;
+    if (!own.empty() && file != kStandardStream && fs::equivalent(own, file, ignored)) return drawing.get();
+  }
+  return nullptr;
+}
+
+}  // namespace host

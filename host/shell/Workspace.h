@@ -1,0 +1,54 @@
+// The drawings that are open, and the files they come from and go to.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "SvgDrawing.h"
+
+namespace host {
+
+class Host;
+class Session;
+struct OpenDocument;
+
+struct OpenDrawing {
+  SvgDrawing drawing;
+  OpenDocument* shown;           // in the host's list of documents; never null
+  std::uint64_t savedState = 0;  // Document::stateMark of what the file holds
+
+  Document& document() const { return *drawing.document; }
+  bool isModified() const { return document().stateMark() != savedState; }
+};
+
+class Workspace {
+ public:
+  Workspace(Host& host, Session& session) : host_(host), session_(session) {}
+  Workspace(const Workspace&) = delete;
+  Workspace& operator=(const Workspace&) = delete;
+  ~Workspace();  // closes what is open
+
+  // Opens the file, or turns to it if it is open already; it becomes the current one. The error is a
+  // sentence that names the file.
+  std::variant<OpenDrawing*, std::string> open(const std::string& file);
+  // Writes the drawing to a file, which is its own from then on. Empty, or a sentence on why it was not
+  // saved.
+  std::string save(OpenDrawing& drawing, const std::string& file);
+  void close(const OpenDrawing& drawing);  // the reference ends; changes are gone
+  void makeCurrent(const OpenDrawing& drawing);
+
+  OpenDrawing* current() const;                                                       // null if none is open
+  const std::vector<std::unique_ptr<OpenDrawing>>& all() const { return drawings_; }  // in order of opening
+
+ private:
+  OpenDrawing* drawingOf(const std::string& file) const;
+
+  Host& host_;
+  Session& session_;
+  std::vector<std::unique_ptr<OpenDrawing>> drawings_;
+};
+
+}  // namespace host

@@ -1,0 +1,128 @@
+// Menus as the user sees them, and what reaches the plug-in through them.
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QMenuBar>
+#include <QtTest/QTest>
+
+#include "QtManager.h"
+#include "WindowWorld.h"
+
+namespace host {
+namespace {
+
+using testing::HasSubstr;
+
+std::string takeRecorded() {
+  void* image =
+      dlopen((testBundle("Recorder") / "Contents/Linux/Recorder.so").c_str(), RTLD_NOW | RTLD_NOLOAD);
+  using Take = const char* (*)();
+  const std::string text = reinterpret_cast<Take>(dlsym(image, "TakeRecordedMessages"))();
+  dlclose(image);
+  return text;
+}
+
+TEST_F(WindowTest, MenusShowWhatTheApplicationAndThePluginOffer) {
+  const std::string expectedEmpty =
+      "File\n"
+      "  Open...\n"
+      "  ---\n"
+      "  Save (off)\n"
+      "  Save As... (off)\n"
+      "  Close (off)\n"
+      "  ---\n"
+      "  Quit\n"
+      "Edit\n"
+      "  Undo (off)\n"
+      "  Redo (off)\n"
+      "  ---\n"
+      "  " +
+      world.textOf("Vandrell ") + "\n    " + world.textOf("corvane Preferences...") +
+      "\n"
+      "View\n"
+      "  Light [x]\n"
+      "  Dark\n"
+      "Window\n"
+      "  " +
+      world.textOf("Vandrell") + "\n    " + world.textOf("corvane ") + "\n      " +
+      world.textOf("Create Line Type Layers") + "\n      " + world.textOf(kMarksKey) +
+      " (off)\n"
+      "Help\n"
+      "  About corvane-host\n"
+      "  " +
+      world.textOf("Vandrell  ") + "\n    " + world.textOf("Legal Notices...") + "\n";
+  EXPECT_EQ(world.menuTree(), expectedEmpty);
+
+  EXPECT_THAT(window.openFiles({kPoster, kStickers}), testing::IsEmpty());
+  EXPECT_THAT(world.menuTree(), HasSubstr("  Save\n  Save As...\n  Close\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr(world.textOf(kMarksKey) +
+                                          "\n  ---\n  1 full-bleed-poster.svg\n  2 sticker-sheet.svg [x]\n"));
+}
+
+TEST_F(WindowTest, TextsOfPluginsAreShownLiterally) {
+  MenuItem item;
+  item.key = "odd";
+  item.text = "Cut & &crease\tnow";
+  world.host.menus().addItem(item, *world.host.menus().groupByName("View Zoom"));
+  window.refresh();
+  EXPECT_THAT(world.menuTree(), HasSubstr("View\n  Cut & &crease now\n  ---\n  Light [x]\n"));
+}
+
+// The recorder is a plug-in that notes what it gets.
+TEST_F(WindowTest, AnItemIsUpdatedBeforeItsMenuShowsAndGoesWhenChosen) {
+  ASSERT_EQ(world.session.loadPlugin(testBundle("Recorder")), "");
+  const SPPluginRef recorder = world.host.plugins()[world.host.plugins().size() - 1].handle;
+  const auto add = [&](const char* text, const char* group, bool wantsUpdate) {
+    MenuItem item;
+    item.plugin = recorder;
+    item.key = item.text = text;
+    item.wantsUpdate = wantsUpdate;
+    world.host.menus().addItem(item, *world.host.menus().groupByName(group));
+  };
+  add("Plain", "View Zoom", false);
+  add("Wanting", "View Zoom", true);
+  add("Elsewhere", "File Open", true);
+  window.refresh();
+  takeRecorded();
+
+  world.choose({"View"});
+  EXPECT_EQ(takeRecorded(), "AI Menu | AI Update\n");
+  world.choose({"View", "Plain"});
+  EXPECT_EQ(takeRecorded(), "AI Menu | AI Update\nAI Menu | AI Go\n");
+
+  {
+    const BoxAnswer answer([&](QMessageBox& box) {
+      world.session.chooseMenuItem("Plain");
+      QTest::keyClick(&box, Qt::Key_Escape);
+    });
+    world.host.alert(AlertKind::Message, "Wait.");
+    EXPECT_TRUE(answer.seen());
+    EXPECT_EQ(takeRecorded(), "") << "while an alert is up no command reaches a plug-in";
+  }
+  RVADMQtManager::QtManager::IncreaseDialogCount();
+  world.choose({"View", "Plain"});
+  EXPECT_EQ(takeRecorded(), "") << "nor while a dialog of a plug-in is";
+  RVADMQtManager::QtManager::DecreaseDialogCount();
+  world.choose({"View", "Plain"});
+  EXPECT_THAT(takeRecorded(), HasSubstr("AI Go"));
+}
+
+TEST_F(WindowTest, KeysReachMenusAndItems) {
+  window.openFiles({kStickers, kPoster});
+  const auto chooseByKeys = [&](Qt::Key title, Qt::Key item) {
+    world.activate();
+    QTest::keyClick(&window, title, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), item);
+  };
+  chooseByKeys(Qt::Key_W, Qt::Key_1);
+  EXPECT_EQ(world.host.documents().current()->title, "sticker-sheet.svg");
+  const BoxAnswer about(Qt::Key_Escape);
+  chooseByKeys(Qt::Key_H, Qt::Key_A);
+  ASSERT_TRUE(about.seen());
+  EXPECT_THAT(about.seen()->text, HasSubstr("corvane-host 0."));
+}
+
+}  // namespace
+}  // namespace host

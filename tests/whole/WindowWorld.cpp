@@ -1,0 +1,156 @@
+#include "WindowWorld.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QtTest/QTest>
+#include <algorithm>
+#include <cstdlib>
+
+#include "OffscreenApplication.h"
+#include "Theme.h"
+
+namespace host {
+namespace {
+
+QAction* entryOf(const QWidget& menu, const std::string& text) {
+  const QList<QAction*> all = menu.actions();
+  const auto found =
+      std::find_if(all.begin(), all.end(), [&](const QAction* a) { return shownText(a->text()) == text; });
+  return found == all.end() ? nullptr : *found;
+}
+
+void waitUntilShown(QMenu& menu) {
+  if (!QTest::qWaitFor([&] { return menu.isVisible(); })) ADD_FAILURE() << "a menu did not open";
+}
+
+void appendMenu(const QMenu& menu, const std::string& indent, std::string& text) {
+  for (const QAction* action : menu.actions()) {
+    if (action->isSeparator()) {
+      if (action != menu.actions().front()) text += indent + "---\n";
+      continue;
+    }
+    text += indent + shownText(action->text());
+    if (action->isChecked()) text += " [x]";
+    if (!action->isEnabled()) text += " (off)";
+    text += "\n";
+    if (action->menu() != nullptr) appendMenu(*action->menu(), indent + "  ", text);
+  }
+}
+
+}  // namespace
+
+BoxAnswer::BoxAnswer(Qt::Key key) : BoxAnswer([key](QMessageBox& box) { QTest::keyClick(&box, key); }) {}
+
+BoxAnswer::BoxAnswer(QMessageBox::StandardButton button)
+    : BoxAnswer([button](QMessageBox& box) { QTest::mouseClick(box.button(button), Qt::LeftButton); }) {}
+
+BoxAnswer::BoxAnswer(std::function<void(QMessageBox&)> answer) {
+  QObject::connect(&timer_, &QTimer::timeout, [this, answer = std::move(answer)] { look(answer); });
+  timer_.start(5);
+}
+
+void BoxAnswer::look(const std::function<void(QMessageBox&)>& answer) {
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box == nullptr || !box->isVisible()) return;
+  timer_.stop();
+  seen_ = Seen{box->windowTitle().toStdString(),
+               box->text().toStdString(),
+               box->icon(),
+               box->defaultButton() != nullptr ? shownText(box->defaultButton()->text()) : std::string(),
+               box->buttons().size(),
+               qobject_cast<QMainWindow*>(box->parentWidget()) != nullptr};
+  answer(*box);
+}
+
+std::string shownText(const QString& text) {
+  QString plain;
+  for (int i = 0; i < text.size(); ++i) {
+    if (text[i] == '&' && i + 1 < text.size()) ++i;
+    plain += text[i];
+  }
+  return plain.toStdString();
+}
+
+WindowWorld::WindowWorld() {
+  setenv("LANGUAGE", "C", 1);
+  ensureApplication();
+  setTheme(Theme::Light);
+  window.emplace(host, session,
+                 FileChooser{[this](QWidget*) { return filesToOpen; },
+                             [this](QWidget*, const std::string& proposed) {
+                               proposedFile = proposed;
+                               return fileToSave;
+                             }});
+  const std::string complaint = session.loadPlugin(corvaneBundle());
+  EXPECT_EQ(complaint, "");
+  session.start();
+  window->refresh();
+  window->show();
+  activate();
+}
+
+std::string WindowWorld::textOf(const std::string& key) {
+  for (const MenuItem& item : host.menus().items()) {
+    if (item.key == key) return item.text;
+  }
+  ADD_FAILURE() << "no item " << key;
+  return {};
+}
+
+void WindowWorld::choose(const std::vector<std::string>& path) {
+  QMenuBar& bar = *window->menuBar();
+  QMenu* menu = nullptr;
+  for (const std::string& text : path) {
+    QAction* entry = menu == nullptr ? entryOf(bar, text) : entryOf(*menu, text);
+    ASSERT_NE(entry, nullptr) << text;
+    if (menu == nullptr) {
+      QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(entry).center());
+    } else {
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
+    }
+    menu = entry->menu();
+    if (menu != nullptr) waitUntilShown(*menu);
+  }
+  while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+}
+
+void WindowWorld::addMarks() {
+  const BoxAnswer answer(Qt::Key_Return);
+  choose({"Window", textOf("Vandrell"), textOf("corvane "), textOf(kMarksKey)});
+}
+
+void WindowWorld::activate() {
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&*window));
+}
+
+void WindowWorld::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  activate();
+  QTest::keyClick(&*window, key, modifiers);
+}
+
+bool WindowWorld::hasLayer(const std::string& title) {
+  const std::vector<LayerId>& layers = document().state().layers;
+  return std::any_of(layers.begin(), layers.end(),
+                     [&](LayerId id) { return document().layer(id)->title == title; });
+}
+
+std::string WindowWorld::menuTree() {
+  std::string text;
+  for (const QAction* action : window->menuBar()->actions()) {
+    if (!action->isVisible()) continue;
+    text += shownText(action->text()) + "\n";
+    appendMenu(*action->menu(), "  ", text);
+  }
+  return text;
+}
+
+const std::string WindowTest::kPoster = std::string(CORVANE_EXAMPLES) + "/full-bleed-poster.svg";
+const std::string WindowTest::kStickers = std::string(CORVANE_EXAMPLES) + "/sticker-sheet.svg";
+
+WindowTest::WindowTest() = default;
+
+}  // namespace host

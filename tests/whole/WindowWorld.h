@@ -1,0 +1,91 @@
+// The real window with the real plug-in, used with mouse and keys.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QMessageBox>
+#include <QString>
+#include <QTimer>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "HostProcess.h"
+#include "MainWindow.h"
+#include "World.h"
+
+class QMenu;
+
+namespace host {
+
+// Waits for the next message box, notes what is in it and answers it.
+class BoxAnswer {
+ public:
+  struct Seen {
+    std::string title;
+    std::string text;
+    QMessageBox::Icon icon;
+    std::string defaultButton;
+    int buttons;
+    bool overTheWindow;
+  };
+
+  explicit BoxAnswer(Qt::Key key);
+  explicit BoxAnswer(QMessageBox::StandardButton button);
+  explicit BoxAnswer(std::function<void(QMessageBox&)> answer);
+
+  // Nullopt if no box came up yet.
+  const std::optional<Seen>& seen() const { return seen_; }
+
+ private:
+  void look(const std::function<void(QMessageBox&)>& answer);
+
+  QTimer timer_;
+  std::optional<Seen> seen_;
+};
+
+// Without "&" of a mnemonic.
+std::string shownText(const QString& text);
+
+class WindowWorld {
+ public:
+  WindowWorld();
+
+  // What the user's file dialogs will answer.
+  std::vector<std::string> filesToOpen;
+  std::string fileToSave;
+  std::string proposedFile;  // what the last save dialog proposed
+
+  std::string textOf(const std::string& key);  // of a plug-in's menu item
+  // Clicks through the menus. A failure is reported, and nothing chosen, if one of the texts is not there.
+  void choose(const std::vector<std::string>& path);
+  void addMarks();  // through the menu, answering what the plug-in has to say
+  void activate();  // no window manager does it here when a box has closed
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers);
+  Document& document() { return *host.currentDocument(); }
+  bool hasLayer(const std::string& title);
+
+  // Of the bar from left to right: a line each, indented; "---" is a separator, "[x]" is checked, "(off)"
+  // is disabled.
+  std::string menuTree();
+
+  Host host;
+  Session session{host};
+  std::optional<MainWindow> window;
+};
+
+// Tests of the window: English, no language of the environment.
+class WindowTest : public testing::Test {
+ protected:
+  static const std::string kPoster;
+  static const std::string kStickers;
+
+  WindowTest();
+
+  WindowWorld world;
+  MainWindow& window = *world.window;
+  ScratchFolder scratch;
+};
+
+}  // namespace host
