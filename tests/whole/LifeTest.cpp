@@ -1,25 +1,16 @@
 // The messages of a life, and what the plug-in does with them.
-#include <dlfcn.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "KeyModifiers.h"
 #include "Platform.h"
+#include "Recorder.h"
 #include "World.h"
 
 namespace host {
 namespace {
 
 using testing::ElementsAre;
-
-std::string takeRecorded() {
-  void* image =
-      dlopen((testBundle("Recorder") / "Contents/Linux/Recorder.so").c_str(), RTLD_NOW | RTLD_NOLOAD);
-  using Take = const char* (*)();
-  const std::string text = reinterpret_cast<Take>(dlsym(image, "TakeRecordedMessages"))();
-  dlclose(image);
-  return text;
-}
 
 TEST(Life, MessagesComeInTheOrderOfAnApplication) {
   Host host;

@@ -1,5 +1,4 @@
 // Menus as the user sees them, and what reaches the plug-in through them.
-#include <dlfcn.h>
 #include <gmock/gmock.h>
 
 #include <QApplication>
@@ -7,21 +6,13 @@
 #include <QtTest/QTest>
 
 #include "QtManager.h"
+#include "Recorder.h"
 #include "WindowWorld.h"
 
 namespace host {
 namespace {
 
 using testing::HasSubstr;
-
-std::string takeRecorded() {
-  void* image =
-      dlopen((testBundle("Recorder") / "Contents/Linux/Recorder.so").c_str(), RTLD_NOW | RTLD_NOLOAD);
-  using Take = const char* (*)();
-  const std::string text = reinterpret_cast<Take>(dlsym(image, "TakeRecordedMessages"))();
-  dlclose(image);
-  return text;
-}
 
 TEST_F(WindowTest, MenusShowWhatTheApplicationAndThePluginOffer) {
   const std::string expectedEmpty =
