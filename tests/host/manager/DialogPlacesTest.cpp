@@ -6,15 +6,13 @@
 
 #include "Application.h"
 #include "HostWindow.h"
-#include "PanelIcons.h"
 #include "QtManager.h"
 
 namespace {
 
 using RVADMQtManager::QtManager;
-using RVADMQtManager::SharedResources;
 
-class DialogPlaces : public WidgetTest {};
+using DialogPlaces = WidgetTest;
 
 TEST_F(DialogPlaces, ParentIsTheNearestWindowThatIsUp) {
   EXPECT_EQ(QtManager::GetModalDialogParent(nullptr, true), nullptr);
@@ -35,7 +33,6 @@ TEST_F(DialogPlaces, ParentIsTheNearestWindowThatIsUp) {
   EXPECT_EQ(QtManager::GetModalDialogParent(&hint, true), &tool);
   EXPECT_EQ(QtManager::GetModalDialogParent(nullptr, false), &*window);
   dialog.close();
-  EXPECT_EQ(QtManager::GetModalDialogParent(nullptr, true), &*window);
   dialog.setParent(nullptr);
   window.reset();
   EXPECT_EQ(QtManager::GetModalDialogParent(nullptr, true), nullptr);
@@ -51,33 +48,12 @@ TEST_F(DialogPlaces, PaletteHoldsWhatIsInItButNoDialogOverIt) {
   QPushButton beside(&window);
   QDialog dialog(&palette);
   QPushButton inDialog(&dialog);
-  const struct {
-    const char* what;
-    const QWidget* widget;
-    bool expected;
-  } rows[] = {{"the palette", &palette, true},
-              {"a button in it", &inPalette, true},
-              {"a button beside it", &beside, false},
-              {"the window", &window, false},
-              {"a dialog over it", &dialog, false},
-              {"a button of that", &inDialog, false},
-              {"nothing", nullptr, false}};
-  for (const auto& row : rows) EXPECT_EQ(QtManager::IsOnNonModalDialog(row.widget), row.expected) << row.what;
+  const std::pair<const QWidget*, bool> rows[] = {{&palette, true}, {&inPalette, true}, {&beside, false},
+                                                  {&window, false}, {&dialog, false},   {&inDialog, false},
+                                                  {nullptr, false}};
+  for (const auto& [widget, expected] : rows) EXPECT_EQ(QtManager::IsOnNonModalDialog(widget), expected);
   frame.setParent(nullptr);  // as a palette is taken apart
   EXPECT_FALSE(QtManager::IsOnNonModalDialog(&inPalette));
-}
-
-TEST_F(DialogPlaces, PanelsKeepTheirLastIcons) {
-  int panel = 0;
-  EXPECT_FALSE(host::panelIconIds(&panel));
-  SharedResources::RegisterPanelIcon(&panel, 1, 1);
-  SharedResources::RegisterPanelIcon(&panel, 17100, 18100);
-  ASSERT_TRUE(host::panelIconIds(&panel));
-  EXPECT_EQ(host::panelIconIds(&panel)->light, 17100);
-  EXPECT_EQ(host::panelIconIds(&panel)->dark, 18100);
-  SharedResources::UnregisterPanelIcon(&panel);
-  SharedResources::UnregisterPanelIcon(&panel);
-  EXPECT_FALSE(host::panelIconIds(&panel));
 }
 
 }  // namespace

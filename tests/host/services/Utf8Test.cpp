@@ -9,35 +9,25 @@ using host::utf8Prefix;
 using host::validUtf8;
 
 TEST(ValidUtf8, KeepsWhatIsWellFormed) {
-  for (const std::string text :
-       {"", "Kiss cut", "Schnitt \xC3\xA4", "\xE5\x88\x87", "\xF0\x9F\x98\x80", "\xED\x9F\xBF"}) {
-    EXPECT_EQ(validUtf8(text), text);
-  }
-  EXPECT_EQ(validUtf8(std::string_view("a\0b", 3)), std::string("a\0b", 3));
+  const std::string text("a\0b \xC3\xA4 \xE5\x88\x87 \xF0\x9F\x98\x80 \xED\x9F\xBF", 19);
+  EXPECT_EQ(validUtf8(text), text);
 }
 
-// The examples of the Unicode Standard, tables 3-8 to 3-11, among others.
+// The examples of the Unicode Standard, tables 3-8 to 3-11.
 TEST(ValidUtf8, ReplacesEachMaximalSubpart) {
   const std::string r = "\xEF\xBF\xBD";
-  const struct {
-    std::string bytes;
-    std::string text;
-  } cases[] = {
-      {"\x80", r},
-      {"a\xFFz", "a" + r + "z"},
+  const std::pair<std::string, std::string> cases[] = {
       {"\xC0\xAF\xE0\x80\xBF\xF0\x81\x82\x41", r + r + r + r + r + r + r + r + "A"},    // overlong
       {"\xED\xA0\x80\xED\xBF\xBF\xED\xAF\x41", r + r + r + r + r + r + r + r + "A"},    // surrogates
       {"\xF4\x91\x92\x93\xFF\x41\x80\xBF\x42", r + r + r + r + r + "A" + r + r + "B"},  // beyond U+10FFFF
       {"\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41", r + r + r + r + "A"},                    // cut short
       {"ab\xE2\x82", "ab" + r},
   };
-  for (const auto& c : cases) EXPECT_EQ(validUtf8(c.bytes), c.text);
+  for (const auto& [bytes, text] : cases) EXPECT_EQ(validUtf8(bytes), text);
 }
 
 TEST(Utf16Length, CountsSurrogatePairsAsTwo) {
-  EXPECT_EQ(utf16Length(""), 0U);
-  EXPECT_EQ(utf16Length("a\xC3\xA4\xE5\x88\x87"), 3U);
-  EXPECT_EQ(utf16Length("\xF0\x9F\x98\x80!"), 3U);
+  EXPECT_EQ(utf16Length("a\xC3\xA4\xE5\x88\x87\xF0\x9F\x98\x80!"), 6U);
 }
 
 TEST(Utf8Prefix, CutsBeforeAWholeCharacter) {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <vector>
 
 #include "HostFixture.h"
@@ -44,33 +42,30 @@ TEST_F(ArtSuiteTest, PaintOrderRunsFromTheTop) {
 TEST_F(ArtSuiteTest, TheTreeKnowsItsParents) {
   const AIArtHandle group = newArt(kGroupArt);
   const AIArtHandle path = newArt(kPathArt, kPlaceInsideOnTop, group);
-  AIArtHandle parent = nullptr;
-  EXPECT_EQ(art.GetArtParent(path, &parent), kNoErr);
-  EXPECT_EQ(parent, group);
-  EXPECT_EQ(art.GetArtParent(group, &parent), kNoErr);
-  EXPECT_EQ(parent, root());
-  EXPECT_EQ(art.GetArtParent(root(), &parent), kNoErr);
-  EXPECT_EQ(parent, nullptr);
+  const std::pair<AIArtHandle, AIArtHandle> parents[] = {{path, group}, {group, root()}, {root(), nullptr}};
+  for (const auto& [child, expected] : parents) {
+    AIArtHandle parent = child;
+    EXPECT_EQ(art.GetArtParent(child, &parent), kNoErr);
+    EXPECT_EQ(parent, expected);
+  }
   AILayerHandle layer = nullptr;
   EXPECT_EQ(art.GetLayerOfArt(path, &layer), kNoErr);
   EXPECT_EQ(layer, topLayer());
-  std::int16_t type = 0;
-  EXPECT_EQ(art.GetArtType(group, &type), kNoErr);
-  EXPECT_EQ(type, kGroupArt);
 }
 
 TEST_F(ArtSuiteTest, OnlyGroupsAndCompoundPathsHoldArt) {
   const AIArtHandle path = newArt(kPathArt);
   const AIArtHandle compound = newArt(kCompoundPathArt);
-  const AIArtHandle group = newArt(kGroupArt);
-  EXPECT_EQ(tryNewArt(kPathArt, kPlaceInsideOnTop, path), kWrongKindErr);
   EXPECT_EQ(tryNewArt(kPathArt, kPlaceInsideOnTop, compound), kNoErr);
-  EXPECT_EQ(tryNewArt(kGroupArt, kPlaceInsideOnTop, compound), kWrongKindErr);
-  EXPECT_EQ(tryNewArt(kPathArt, kPlaceAbove, root()), kWrongKindErr);
-  EXPECT_EQ(tryNewArt(kTextFrameArt, kPlaceInsideOnTop, group), kBadParameterErr);
-  EXPECT_EQ(tryNewArt(kPathArt, kPlaceAboveAll, group), kBadParameterErr);
-  EXPECT_EQ(tryNewArt(kPathArt, static_cast<AIPaintOrder>(9), group), kBadParameterErr);
-  EXPECT_EQ(art.NewArt(kPathArt, kPlaceAboveAll, nullptr, nullptr), kBadParameterErr);
+  EXPECT_THAT(
+      codes(tryNewArt(kPathArt, kPlaceInsideOnTop, path), tryNewArt(kGroupArt, kPlaceInsideOnTop, compound),
+            tryNewArt(kPathArt, kPlaceAbove, root())),
+      testing::Each(kWrongKindErr));
+  EXPECT_THAT(
+      codes(tryNewArt(kTextFrameArt, kPlaceInsideOnTop, root()), tryNewArt(kPathArt, kPlaceAboveAll, root()),
+            tryNewArt(kPathArt, static_cast<AIPaintOrder>(9), root()),
+            art.NewArt(kPathArt, kPlaceAboveAll, nullptr, nullptr)),
+      testing::Each(kBadParameterErr));
 }
 
 TEST_F(ArtSuiteTest, MovesWithinADocument) {
@@ -89,35 +84,27 @@ TEST_F(ArtSuiteTest, MovesWithinADocument) {
 TEST_F(ArtSuiteTest, LockedAndHiddenLayersAreLeftAlone) {
   const AIArtHandle locked = newSquare({0, 0}, 10);
   const AILayerHandle layer = topLayer();
+  ASSERT_EQ(layers.SetLayerEditable(layer, 0), kNoErr);
+  EXPECT_EQ(tryNewArt(kPathArt, kPlaceAboveAll, nullptr), kLayerLockedErr) << "the current layer";
+  ASSERT_EQ(layers.SetLayerEditable(layer, 1), kNoErr);
   AILayerHandle open = nullptr;
   ASSERT_EQ(layers.InsertLayer(layer, kPlaceBelow, &open), kNoErr);
   AIArtHandle openRoot = nullptr;
   ASSERT_EQ(art.GetFirstArtOfLayer(open, &openRoot), kNoErr);
   const AIArtHandle movable = newArt(kPathArt, kPlaceInsideOnTop, openRoot);
-
-  const auto expectLocked = [&] {
-    const AIPathStyle style{};
-    const AIPathSegment segment{};
-    EXPECT_EQ(tryNewArt(kPathArt, kPlaceAbove, locked), kLayerLockedErr);
-    EXPECT_EQ(art.DisposeArt(locked), kLayerLockedErr);
-    EXPECT_EQ(art.ReorderArt(locked, kPlaceInsideOnTop, openRoot), kLayerLockedErr);
-    EXPECT_EQ(art.ReorderArt(movable, kPlaceAbove, locked), kLayerLockedErr);
-    EXPECT_EQ(paths.SetPathSegments(locked, 0, 1, &segment), kLayerLockedErr);
-    EXPECT_EQ(paths.SetPathClosed(locked, 0), kLayerLockedErr);
-    EXPECT_EQ(styles.SetPathStyle(locked, &style), kLayerLockedErr);
-  };
-  ASSERT_EQ(layers.SetLayerEditable(layer, 0), kNoErr);
-  expectLocked();
-  ASSERT_EQ(layers.SetLayerEditable(layer, 1), kNoErr);
-  ASSERT_EQ(layers.SetLayerVisible(layer, 0), kNoErr);
-  expectLocked();
-  ASSERT_EQ(layers.SetLayerVisible(layer, 1), kNoErr);
+  const AIPathStyle style{};
+  const AIPathSegment segment{};
+  for (const auto set : {layers.SetLayerEditable, layers.SetLayerVisible}) {
+    ASSERT_EQ(set(layer, 0), kNoErr);
+    EXPECT_THAT(
+        codes(tryNewArt(kPathArt, kPlaceAbove, locked), art.DisposeArt(locked),
+              art.ReorderArt(locked, kPlaceInsideOnTop, openRoot),
+              art.ReorderArt(movable, kPlaceAbove, locked), paths.SetPathSegments(locked, 0, 1, &segment),
+              paths.SetPathClosed(locked, 0), styles.SetPathStyle(locked, &style)),
+        testing::Each(kLayerLockedErr));
+    ASSERT_EQ(set(layer, 1), kNoErr);
+  }
   EXPECT_EQ(art.DisposeArt(locked), kNoErr);
-}
-
-TEST_F(ArtSuiteTest, TheCurrentLayerCanBeLockedToo) {
-  ASSERT_EQ(layers.SetLayerEditable(topLayer(), 0), kNoErr);
-  EXPECT_EQ(tryNewArt(kPathArt, kPlaceAboveAll, nullptr), kLayerLockedErr);
 }
 
 TEST_F(ArtSuiteTest, NamesAreUtf8) {
@@ -130,23 +117,14 @@ TEST_F(ArtSuiteTest, NamesAreUtf8) {
   EXPECT_EQ(read(out), "Schnitt \xC3\xA4\xEF\xBF\xBD");
 }
 
-TEST_F(ArtSuiteTest, BoundsGoThroughTheMatrix) {
+TEST_F(ArtSuiteTest, BoundsGoThroughTheMatrixAndAreInvertedForNothing) {
   const AIArtHandle square = newSquare({10, 20}, 30);
   fill(square);
-  AIRealRect bounds{};
-  ASSERT_EQ(art.GetArtTransformBounds(square, nullptr, kNoStrokeBounds, &bounds), kNoErr);
-  EXPECT_EQ(bounds.left, 10);
-  EXPECT_EQ(bounds.top, 50);
-  EXPECT_EQ(bounds.right, 40);
-  EXPECT_EQ(bounds.bottom, 20);
   const AIRealMatrix twice{2, 0, 0, 2, 5, 0};
-  ASSERT_EQ(art.GetArtTransformBounds(square, &twice, kNoStrokeBounds, &bounds), kNoErr);
-  EXPECT_EQ(bounds.left, 25);
-  EXPECT_EQ(bounds.top, 100);
-}
-
-TEST_F(ArtSuiteTest, BoundsOfNothingAreInverted) {
   AIRealRect bounds{};
+  ASSERT_EQ(art.GetArtTransformBounds(square, &twice, kNoStrokeBounds, &bounds), kNoErr);
+  const AIReal sides[] = {bounds.left, bounds.top, bounds.right, bounds.bottom};
+  EXPECT_THAT(sides, testing::ElementsAre(25, 100, 85, 40));
   ASSERT_EQ(art.GetArtTransformBounds(newArt(kGroupArt), nullptr, 80, &bounds), kNoErr);
   EXPECT_GT(bounds.left, bounds.right);
   EXPECT_GT(bounds.bottom, bounds.top);

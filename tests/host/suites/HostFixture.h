@@ -1,11 +1,13 @@
 // A host with an open document, and its suites as a plug-in has them.
 #pragma once
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "AIArt.h"
 #include "AILayer.h"
@@ -40,6 +42,12 @@ class HostFixture : public testing::Test {
     const void* table = nullptr;
     EXPECT_EQ(host.basic()->AcquireSuite(name, version, &table), kSPNoError) << name;
     return *static_cast<const Suite*>(table);
+  }
+
+  // What calls answered that do not depend on each other.
+  template <typename... Codes>
+  static std::vector<AIErr> codes(Codes... all) {
+    return {all...};
   }
 
   AIUnicodeStringHandle text(std::string_view bytes = {}) {

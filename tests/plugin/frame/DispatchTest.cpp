@@ -4,12 +4,10 @@
 #include <functional>
 
 #include "AIError.h"
-#include "AITimer.h"
 #include "Annotator.h"
 #include "FramePlugin.h"
 #include "HMX_AIMenu.h"
 #include "HMX_AINotifier.h"
-#include "HMX_AITimerHandler.h"
 #include "HMX_AITool.h"
 
 namespace {
@@ -102,19 +100,14 @@ class Dispatch : public FrameTest {
   Log log;
 };
 
-TEST_F(Dispatch, MenusAnswerForThemselves) {
+TEST_F(Dispatch, MenusAnswerForThemselvesAndNotifiersDoNot) {
   log.result = 7;
   EXPECT_EQ(Menu("AI Go", 101), 7);
   EXPECT_EQ(Menu("AI Update", 101), 7);
   EXPECT_EQ(Menu("AI Gone", 101), 0);
-  EXPECT_THAT(log.events, ElementsAre("menu goes", "menu updates"));
-}
-
-TEST_F(Dispatch, NotifiersAreToldApartAndTheirResultsDropped) {
-  log.result = 7;
   EXPECT_EQ(Notify(103), 0);
   EXPECT_EQ(Notify(102), 0);
-  EXPECT_THAT(log.events, ElementsAre("second", "first"));
+  EXPECT_THAT(log.events, ElementsAre("menu goes", "menu updates", "second", "first"));
 }
 
 TEST_F(Dispatch, ToolsHaveEightOperations) {
@@ -154,56 +147,22 @@ TEST_F(Dispatch, AnnotatorsAnswerLast) {
   EXPECT_THAT(log.events, ElementsAre("draws"));
 }
 
-TEST_F(Dispatch, AnExceptionClosesTheLevelOfSuites) {
-  struct ThrowingMenu : LoggingMenu {
-    using LoggingMenu::LoggingMenu;
-    AIErr Go(const AIMenuMessage&) override { throw ai::Error(kNoDocumentErr); }
-  };
-  plugin->MakeMenu<ThrowingMenu>(plugin.get(), 105, log);
-  EXPECT_THROW(Menu("AI Go", 105), ai::Error);
-  EXPECT_EQ(plugin->Nesting(), 1);
-}
-
-TEST_F(Dispatch, MessagesNest) {
+TEST_F(Dispatch, MessagesNestAndAnExceptionClosesTheirLevel) {
   struct NestingMenu : LoggingMenu {
     using LoggingMenu::LoggingMenu;
     AIErr Go(const AIMenuMessage&) override { return inner(); }
     std::function<AIErr()> inner;
   };
-  plugin->MakeMenu<NestingMenu>(plugin.get(), std::size_t{106}, log)->inner = [this] {
+  auto* menu = plugin->MakeMenu<NestingMenu>(plugin.get(), std::size_t{106}, log);
+  menu->inner = [this] {
     Notify(102);
     return plugin->Nesting();
   };
   EXPECT_EQ(Menu("AI Go", 106), 2);
   EXPECT_THAT(log.events, ElementsAre("first"));
+  menu->inner = []() -> AIErr { throw ai::Error(kNoDocumentErr); };
+  EXPECT_THROW(Menu("AI Go", 106), ai::Error);
   EXPECT_EQ(plugin->Nesting(), 1);
-}
-
-TEST_F(Dispatch, AfterShutdownNobodyIsLeft) {
-  SPMessageData head = Head();
-  EXPECT_EQ(plugin->Dispatch("SP Interface", "Shutdown", &head), 0);
-  log.result = 7;
-  EXPECT_EQ(Menu("AI Go", 101), 0);
-  EXPECT_EQ(Notify(102), 0);
-  EXPECT_EQ(Tool("AI Select", 104), 0);
-  EXPECT_TRUE(log.events.empty());
-}
-
-TEST_F(Dispatch, TimersAreWalkedUpToTheCount) {
-  struct LoggingTimer : HMX_AITimer {
-    explicit LoggingTimer(Log& list) : log(list) { timer = HandleOf<AITimerHandle>(107); }
-    AIErr Timer(const AITimerMessage&, const char* selector) override { return log.Add(selector); }
-    Log& log;
-  };
-  HMX_AITimerHandler timers;
-  AITimerMessage message{Head(), HandleOf<AITimerHandle>(107)};
-  timers.slots[2] = std::make_unique<LoggingTimer>(log);
-  log.result = 7;
-  for (const std::int32_t count : {0, 2, 3}) {
-    timers.count = count;
-    EXPECT_EQ(timers.HandleMessage("AI Timer", "tick", &message), 0);
-    EXPECT_EQ(log.events.size(), count == 3 ? 1U : 0U) << count;
-  }
 }
 
 }  // namespace

