@@ -2,53 +2,27 @@
 #include <gtest/gtest.h>
 
 #include <utility>
-#include <vector>
 
 #include "Listing.h"
-#include "RDB.h"
 
 namespace {
 
-struct InvertCase {
-  const char* what;
-  std::vector<std::pair<const char*, const char*>> entries;
-  const char* inverted;
-};
-
 TEST(Invert, GivesTextToLastComponent) {
-  const InvertCase cases[] = {
-      {"nothing", {}, ""},
-      {"path stays", {{"Some.Group.Key", "Hello"}}, "Some/Group/Hello=Key"},
-      {"at the root", {{R"(Some sentence\.)", "Ein Satz."}}, "Ein Satz.=Some sentence."},
-      {"text is one component", {{"a.b", "x.*.y"}}, "a/x.*.y=b"},
-      {"text is no wildcard", {{"a", "*"}, {"b", "."}}, "*=a, .=b"},
-      {"wildcards in the path stay", {{"*.a", "x"}, {"...b", "y"}}, "<*>/x=a, <.>/y=b"},
-      {"walk stops at a text", {{"a", "A"}, {"a.b", "B"}}, "A=a"},
-      {"walk passes inner nodes", {{"a.b.c", "C"}, {"a.d", "D"}}, "a/D=d, a/b/C=c"},
-      {"text named like a group", {{"a.b", "B"}, {"z", "a"}}, "a=z, a/B=b"},
-      {"empty text", {{"g.a", ""}}, "g/=a"},
-      {"root", {{"", "text of the root"}, {"a", "A"}}, "text of the root="},
+  const std::pair<const char*, const char*> cases[] = {
+      {"Some.Group.Key : Hello g.a : \"\"", "g/=a, Some/Group/Hello=Key"},
+      {"a.b : x.*.y c : . d : *", "*=d, .=c, a/x.*.y=b"},
+      {"*.a : x ...b : y", "<*>/x=a, <.>/y=b"},
+      {"a : A a.b : B", "A=a"},
+      {"a.b : B z : a", "a=z, a/B=b"},
+      {"b : text a : text", "text=b"},
   };
-  for (const InvertCase& row : cases) {
-    const RDB_Handle db = RDB_Create();
-    for (const auto& [key, text] : row.entries) RDB_PutString(db.get(), key, text);
-    EXPECT_EQ(Listing(RDB_Invert(db.get()).get()), row.inverted) << row.what;
+  for (const auto& [texts, inverted] : cases) {
+    const RDB_Handle db = DatabaseOf(texts);
+    EXPECT_EQ(Listing(RDB_Invert(db.get()).get()), inverted) << texts;
   }
-}
-
-TEST(Invert, PassesWhatIsNoText) {
-  const RDB_Handle db = RDB_Create();
+  const RDB_Handle db = DatabaseOf("a.b : text");
   RDB_Put(db.get(), "a", 5, 4, "data");
-  RDB_PutString(db.get(), "a.b", "text");
-  EXPECT_EQ(Listing(RDB_Invert(db.get()).get()), "a/text=b");
-}
-
-// Both keys have the same text: the one that a walk meets last gives the value.
-TEST(Invert, LetsTheLaterBucketWin) {
-  const RDB_Handle db = RDB_Create();
-  RDB_PutString(db.get(), "b", "text");
-  RDB_PutString(db.get(), "a", "text");
-  EXPECT_EQ(Listing(RDB_Invert(db.get()).get()), "text=b");
+  EXPECT_EQ(Listing(RDB_Invert(db.get()).get()), "a/text=b") << "what is no text stops nothing";
 }
 
 }  // namespace

@@ -2,16 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <sstream>
+
+#include "RDB_LoadText.h"
 #include "Soundness.h"
 
-namespace {
-
-void Append(const RDB_KeyPart& part, std::string& path) {
-  if (!path.empty()) path += '/';
-  path += part.slot >= kRDBStar ? "<" + std::string(part.name) + ">" : std::string(part.name);
+RDB_Handle DatabaseOf(std::string_view text) {
+  RDB_Handle db = RDB_Create();
+  RDB_Reader reader(text.data(), text.size());
+  RDB_ReadText(*db, reader, "some.asc");
+  return db;
 }
-
-}  // namespace
 
 std::string Listing(const RDB_Database* db) {
   const char* const unsound = WhatIsUnsound(*db);
@@ -19,19 +21,16 @@ std::string Listing(const RDB_Database* db) {
   std::string listing;
   for (const RDB_Node* node : NodesWithValue(*db)) {
     std::string path;
-    for (const RDB_KeyPart& part : PathTo(*node)) Append(part, path);
+    for (const RDB_KeyPart& part : PathTo(*node)) {
+      const std::string name = part.name;
+      path += (path.empty() ? "" : "/") + (part.slot >= kRDBStar ? '<' + name + '>' : name);
+    }
     listing += (listing.empty() ? "" : ", ") + path + "=" + node->value->Data();
   }
   return listing;
 }
 
-std::string PartsListing(const char* key) {
-  const RDB_Key parts = RDB_ParseKey(key);
-  std::string listing;
-  for (const RDB_KeyPart* part = parts.get(); part->name != nullptr; ++part) {
-    listing += part == parts.get() ? "" : "/";
-    listing +=
-        part->slot >= kRDBStar ? "<" + std::string(part->name) + ">" : "'" + std::string(part->name) + "'";
-  }
-  return listing;
+std::vector<std::string> Words(const std::string& text) {
+  std::istringstream stream(text);
+  return {std::istream_iterator<std::string>(stream), {}};
 }

@@ -5,15 +5,15 @@
 
 // While one lives, the allocation number `failing` (from 0) and all behind it fail; without a number none
 // does.
-class MemoryWatch {
- public:
-  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
-
-  explicit MemoryWatch(std::size_t failing = kNone);
+struct MemoryWatch {
+  explicit MemoryWatch(std::size_t failing = static_cast<std::size_t>(-1)) : firstFailing(failing) {
+    current = this;
+  }
   MemoryWatch(const MemoryWatch&) = delete;
-  MemoryWatch& operator=(const MemoryWatch&) = delete;
-  ~MemoryWatch();
+  ~MemoryWatch() { current = nullptr; }
 
-  std::size_t Count() const;    // of allocations asked for since it was made
-  std::size_t Largest() const;  // of them, in bytes
+  const std::size_t firstFailing;
+  std::size_t count = 0;    // of allocations asked for since it was made
+  std::size_t largest = 0;  // of them, in bytes
+  static inline MemoryWatch* current = nullptr;
 };

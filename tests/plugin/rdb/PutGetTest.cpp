@@ -1,79 +1,45 @@
 // Storing and reading single values, and what is no handle.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "Listing.h"
-#include "RDB_Database.h"
 
 namespace {
 
-constexpr unsigned kSomeType = 7;
-
 struct Got {
-  unsigned type = 99;
-  unsigned size = 99;
+  unsigned type = 99, size = 99;
   RDB_Text data;
   Got(const RDB_Database* db, const char* key) { RDB_Get(db, key, type, size, data); }
 };
 
 TEST(PutGet, GivesFreshCopies) {
   const RDB_Handle db = RDB_Create();
-  const char bytes[] = {1, 0, 2};
-  RDB_Put(db.get(), "k", kSomeType, sizeof bytes, bytes);
+  RDB_Put(db.get(), "k", 7, 3, "\1\0\2");
   const Got got(db.get(), "k");
-  ASSERT_EQ(got.size, sizeof bytes);
-  EXPECT_EQ(got.type, kSomeType);
-  EXPECT_EQ(std::string(got.data.get(), got.size), std::string(bytes, sizeof bytes));
+  EXPECT_EQ(got.type, 7u);
+  ASSERT_EQ(std::string(got.data.get(), got.size), std::string("\1\0\2", 3));
   got.data[0] = 9;
   EXPECT_EQ(Got(db.get(), "k").data[0], 1);
-  EXPECT_EQ(RDB_GetString(db.get(), "k"), nullptr) << "no string";
-  EXPECT_EQ(RDB_FindString(db.get(), nullptr, "k"), nullptr) << "no string";
-}
-
-TEST(PutGet, AbsenceIsNoError) {
-  const RDB_Handle db = RDB_Create();
+  EXPECT_TRUE(!RDB_GetString(db.get(), "k") && !RDB_FindString(db.get(), nullptr, "k")) << "no string";
   rdbError = kRDBBadFile;
-  const Got got(db.get(), "none");
-  EXPECT_EQ(got.data, nullptr);
-  EXPECT_EQ(got.type, kRDBNoType);
-  EXPECT_EQ(got.size, 0u);
-  EXPECT_EQ(rdbError, kRDBNoError);
+  const Got none(db.get(), "none");
+  EXPECT_TRUE(none.data == nullptr && none.type == kRDBNoType && none.size == 0 && rdbError == kRDBNoError);
 }
 
 TEST(PutGet, ReplacesAndTakesAway) {
-  const RDB_Handle db = RDB_Create();
-  RDB_PutString(db.get(), "a.b", "below");
-  RDB_PutString(db.get(), "a", "old");
-  RDB_PutString(db.get(), "a", "new");
-  EXPECT_EQ(Listing(db.get()), "a=new, a/b=below");
+  const RDB_Handle db = DatabaseOf("a.b : below a : old a : \"the new text\" : root");
+  RDB_PutString(db.get(), "a", RDB_FindString(db.get(), nullptr, "a") + 4);
+  EXPECT_EQ(Listing(db.get()), "=root, a=new text, a/b=below");
+  RDB_Put(db.get(), "a", kRDBString, 3, "text without its NUL");
+  EXPECT_STREQ(RDB_FindString(db.get(), nullptr, "a"), "tex");
+  RDB_PutString(db.get(), "a", "");
+  EXPECT_EQ(Got(db.get(), "a").size, 1u) << "an empty text is not absent";
   RDB_Put(db.get(), "a", kRDBString, 0, "new");
+  RDB_PutString(db.get(), "", nullptr);
   EXPECT_EQ(RDB_GetString(db.get(), "a"), nullptr);
   EXPECT_EQ(Listing(db.get()), "a/b=below");
-  RDB_PutString(db.get(), "a.b", nullptr);
-  EXPECT_EQ(Listing(db.get()), "");
-  EXPECT_EQ(db->root.FirstChild()->childCount, 1u) << "the nodes stay";
-}
-
-TEST(PutGet, EmptyTextIsNotAbsent) {
-  const RDB_Handle db = RDB_Create();
-  RDB_PutString(db.get(), "k", "");
-  EXPECT_STREQ(RDB_GetString(db.get(), "k").get(), "");
-  EXPECT_EQ(Got(db.get(), "k").size, 1u);
-}
-
-TEST(PutGet, MayPutWhatItReplaces) {
-  const RDB_Handle db = RDB_Create();
-  RDB_PutString(db.get(), "k", "a text of some length");
-  RDB_PutString(db.get(), "k", RDB_FindString(db.get(), nullptr, "k") + 2);
-  EXPECT_EQ(Listing(db.get()), "k=text of some length");
-}
-
-TEST(PutGet, ClosesAStringThatIsStoredWithoutItsNul) {
-  const RDB_Handle db = RDB_Create();
-  RDB_Put(db.get(), "k", kRDBString, 3, "text");
-  EXPECT_STREQ(RDB_GetString(db.get(), "k").get(), "tex");
-  EXPECT_STREQ(RDB_FindString(db.get(), nullptr, "k"), "tex");
 }
 
 // Across the step from a plain list of children to buckets with an index.
@@ -84,58 +50,38 @@ TEST(PutGet, KeepsBucketsInOrderForManyChildren) {
     RDB_PutString(db.get(), ("all." + key).c_str(), key.c_str());
     if (number == 10) RDB_PutString(db.get(), "all.*", "star");
     if (number == 20) RDB_PutString(db.get(), "all..", "dots");
-    if (number < 40) Listing(db.get());
+    if (number < 40 || number == 2999) Listing(db.get());
   }
-  Listing(db.get());
-  for (int number = 0; number < 3000; ++number) {
-    const std::string key = std::to_string(number);
-    ASSERT_STREQ(RDB_FindString(db.get(), "all", key.c_str()), key.c_str());
-  }
+  for (int number = 0; number < 3000; number += 7)
+    ASSERT_EQ(RDB_FindString(db.get(), "all", std::to_string(number).c_str()), std::to_string(number));
   EXPECT_STREQ(RDB_FindString(db.get(), "all", "3000"), "star");
   EXPECT_STREQ(RDB_GetString(db.get(), "all.30.00").get(), "dots");
 }
 
-void ExpectRefusal(RDB_Database* bad) {
-  const RDB_Handle good = RDB_Create();
-  RDB_PutString(good.get(), "k", "text");
-  const auto expectBadHandle = [](const char* operation) {
-    EXPECT_EQ(rdbError, kRDBBadHandle) << operation;
-    rdbError = kRDBNoError;
-  };
-  RDB_Put(bad, "k", kSomeType, 1, "x");
-  expectBadHandle("Put");
-  RDB_PutString(bad, "k", "x");
-  expectBadHandle("PutString");
-  EXPECT_EQ(Got(bad, "k").data, nullptr);
-  expectBadHandle("Get");
-  EXPECT_EQ(RDB_GetString(bad, "k"), nullptr);
-  expectBadHandle("GetString");
-  EXPECT_EQ(RDB_FindString(bad, nullptr, "k"), nullptr);
-  expectBadHandle("FindString");
-  RDB_LoadText(bad, "file");
-  expectBadHandle("LoadText");
-  RDB_Merge(bad, good.get());
-  expectBadHandle("Merge into");
-  RDB_Merge(good.get(), bad);
-  expectBadHandle("Merge from");
-  EXPECT_EQ(RDB_Invert(bad), nullptr);
-  expectBadHandle("Invert");
-  RDB_Destroy(bad);
-  expectBadHandle("Destroy");
-  EXPECT_EQ(Listing(good.get()), "k=text");
-}
-
-TEST(Handle, NullIsRefused) {
-  ExpectRefusal(nullptr);
-}
-
-TEST(Handle, WhatHasNoMarkerIsRefused) {
-  const RDB_Handle db = RDB_Create();
-  RDB_PutString(db.get(), "a", "kept");
-  db->marker[7] = '-';
-  ExpectRefusal(db.get());
-  db->marker[7] = '\0';
-  EXPECT_EQ(Listing(db.get()), "a=kept");
+TEST(Handle, IsRefusedIfNullOrWithoutItsMarker) {
+  const RDB_Handle good = DatabaseOf("k : text"), unmarked = DatabaseOf("a : kept");
+  unmarked->marker[7] = '-';
+  for (RDB_Database* const bad : {static_cast<RDB_Database*>(nullptr), unmarked.get()}) {
+    const std::function<void()> operations[] = {
+        [=] { RDB_Put(bad, "k", 7, 1, "x"); },
+        [=] { RDB_PutString(bad, "k", "x"); },
+        [=] { EXPECT_EQ(Got(bad, "k").data, nullptr); },
+        [=] { EXPECT_EQ(RDB_GetString(bad, "k"), nullptr); },
+        [=] { EXPECT_EQ(RDB_FindString(bad, nullptr, "k"), nullptr); },
+        [=] { RDB_LoadText(bad, "file"); },
+        [&] { RDB_Merge(bad, good.get()); },
+        [&] { RDB_Merge(good.get(), bad); },
+        [=] { EXPECT_EQ(RDB_Invert(bad), nullptr); },
+        [=] { RDB_Destroy(bad); },
+    };
+    for (const std::function<void()>& operation : operations) {
+      rdbError = kRDBNoError;
+      operation();
+      EXPECT_EQ(rdbError, kRDBBadHandle) << &operation - operations;
+    }
+  }
+  unmarked->marker[7] = '\0';
+  EXPECT_EQ(Listing(unmarked.get()) + Listing(good.get()), "a=keptk=text");
 }
 
 }  // namespace

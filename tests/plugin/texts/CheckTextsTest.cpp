@@ -5,17 +5,15 @@
 #include <gtest/gtest.h>
 
 #include "ScratchFolder.h"
+#include "TextFaults.h"
 
 namespace texts {
 namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr char kEnglishDates[] = "Date.Formats.Short : \"%o/%n/%Y\"\n";
-constexpr char kGermanDates[] = "Date.Formats.Short : \"%n.%o.%Y\"\n";
 constexpr char kEnglishTexts[] =
     "\"corvane \" : \"corvane\"\n"
     "\"Kiss Cut\" : \"Kiss Cut\"\n"
@@ -41,12 +39,11 @@ AskedKeys Asked() {
   return asked;
 }
 
-class SetOfTexts {
- public:
+struct SetOfTexts {
   SetOfTexts() {
-    scratch.write("rv.asc", kEnglishDates);
+    scratch.write("rv.asc", "Date.Formats.Short : \"%o/%n/%Y\"\n");
     scratch.write("corvane.asc", kEnglishTexts);
-    scratch.write("de.lproj/rv.asc", kGermanDates);
+    scratch.write("de.lproj/rv.asc", "Date.Formats.Short : \"%n.%o.%Y\"\n");
     scratch.write("de.lproj/corvane.asc", kGermanTexts);
   }
   std::vector<std::string> Findings() const { return CheckTexts(scratch.path, Asked()); }
@@ -54,108 +51,76 @@ class SetOfTexts {
   ScratchFolder scratch;
 };
 
+// Throws where there is no `old`.
 std::string Replaced(std::string text, const std::string& old, const std::string& now) {
-  const std::size_t at = text.find(old);
-  if (at == std::string::npos) throw std::invalid_argument(old);
-  return text.replace(at, old.size(), now);
-}
-
-TEST(CheckTexts, FindsNothingInASoundSet) {
-  EXPECT_THAT(SetOfTexts().Findings(), IsEmpty());
+  return text.replace(text.find(old), old.size(), now);
 }
 
 struct Fault {
-  const char* name;
   const char* sound;  // of the German texts
   std::string faulty;
-  const char* finding;
+  const char* finding;  // behind the name of their file
 };
 
 const Fault kFaults[] = {
-    {"Missing", "\"Crease\" : \"Rillen\"\n", "",
-     "de.lproj/corvane.asc: the text of \"Crease\" is missing; types.json asks for it"},
-    {"Extra", "\"Crease\"", "\"Old\" : \"Alt\"\n\"Crease\"",
-     "de.lproj/corvane.asc:3: the text of \"Old\" is asked for by nobody"},
-    {"Twice", "\"Crease\"", "\"Kiss Cut\" : \"Kuss\"\n\"Crease\"",
-     "de.lproj/corvane.asc:3: the text of \"Kiss Cut\" stands in de.lproj/corvane.asc:2 as well"},
-    {"InBothModules", "\"Crease\"", "Date.Formats.Short : \"%Y\"\n\"Crease\"",
-     "de.lproj/corvane.asc:3: the text of \"Date.Formats.Short\" stands in de.lproj/rv.asc:1 as well"},
-    {"Empty", "Anschneiden", "", "corvane.asc:2: the text of \"Kiss Cut\" is empty"},
-    {"Untranslated", "Rillen", "Crease", "\"Crease\" is not translated"},
-    {"SwappedPlaceholders", "%s hat %d", "%d hat %s",
-     "de.lproj/corvane.asc:5: the text of \"%s has %d lines\\.\" has other placeholders than its key"},
-    {"PlaceholderOfAnotherSize", "hat %d", "hat %ld", "has other placeholders than its key"},
-    {"BarePercent", "Rillen", "100 % Rillen", "has other placeholders than its key"},
-    {"NoEllipsis", "Öffnen...", "Öffnen", "\"Open\\.\\.\\.\" does not end as its key does"},
-    {"FullStop", "Rillen", "Rillen.", "\"Crease\" does not end as its key does"},
-    {"Blanks", "\"Rillen\"", "\"Rillen \"", "\"Crease\" has blanks at its ends"},
-    {"LongName", "Rillen", std::string(32, 'x'), "is longer than 31 characters"},
-    {"NameWithSeparator", "Rillen", "Rillen|Falten", "\"Crease\" has a \"|\" in it"},
-    {"NameOfAnother", "Rillen", "Anschneiden", "\"Crease\" is that of \"Kiss Cut\" too"},
-    {"LongAlert", "Linien", std::string(501, 'x'), "is longer than 511 bytes"},
-    {"LongText", "Öffnen", std::string(8189, 'x'), "is longer than 8191 bytes"},
-    {"LongKey", "\"Crease\"", '"' + std::string(1024, 'k') + "\" : \"x\"\n\"Crease\"", "has too long a key"},
-    {"NoUTF8", "Öffnen",
-     "\xD6"
-     "ffnen",
-     "\"Open\\.\\.\\.\" is no UTF-8"},
-    {"HalfACharacter", "Rillen", "Rillen\\303", "\"Crease\" is no UTF-8"},
-    {"Wildcard", "\"Crease\"", "\"Cr*\".\"*\"", "the text of \"Cr\\*.*\" is asked for by nobody"},
-    {"NoSeparator", "\"Crease\" :", "\"Crease\"", "de.lproj/corvane.asc: has a syntax error"},
-    {"OpenQuote", "Rillen\"", "Rillen", "de.lproj/corvane.asc: has a syntax error"},
-    {"OpenQuoteAtTheEnd", "Linien.\"", "Linien.", "has blanks at its ends"},
-    {"KeyWithoutText", "Linien.\"\n", "Linien.\"\nKey", "de.lproj/corvane.asc: has a syntax error"},
+    {"\"Crease\" : \"Rillen\"\n", "", ": the text of \"Crease\" is missing; types.json asks for it"},
+    {"\"Crease\"", "\"Old\" : \"Alt\"\n\"Crease\"", ":3: the text of \"Old\" is asked for by nobody"},
+    {"Kiss Cut", "Crease", ":3: the text of \"Crease\" stands in de.lproj/corvane.asc:2 as well"},
+    {"Anschneiden", "", ":2: the text of \"Kiss Cut\" is empty"},
+    {"Rillen", "Crease", ":3: the text of \"Crease\" is not translated"},
+    {"%s hat %d", "%d hat %s", ":5: the text of \"%s has %d lines\\.\" has other placeholders than its key"},
+    {"Rillen", "100 % Rillen", ":3: the text of \"Crease\" has other placeholders than its key"},
+    {"Rillen", "Rillen.", ":3: the text of \"Crease\" does not end as its key does"},
+    {"Rillen\"", "Rillen \"", ":3: the text of \"Crease\" has blanks at its ends"},
+    {"Rillen", std::string(32, 'x'), ":3: the text of \"Crease\" is longer than 31 characters"},
+    {"Rillen", "Rillen|Falten", ":3: the text of \"Crease\" has a \"|\" in it"},
+    {"Rillen", "Anschneiden", ":3: the text of \"Crease\" is that of \"Kiss Cut\" too"},
+    {"Rillen", "Rillen\\303", ":3: the text of \"Crease\" is no UTF-8"},
+    {"Linien", std::string(501, 'x'), ":5: the text of \"%s has %d lines\\.\" is longer than 511 bytes"},
+    {"Öffnen", std::string(8189, 'x'), ":4: the text of \"Open\\.\\.\\.\" is longer than 8191 bytes"},
+    {"\"Crease\"", "\"Cr*\".\"*\"", ":3: the text of \"Cr\\*.*\" is asked for by nobody"},
+    {"Linien.\"\n", "Linien.\"\nKey", ": has a syntax error"},
 };
 
 TEST(CheckTexts, FindsEachFault) {
   for (const Fault& fault : kFaults) {
     const SetOfTexts texts;
     texts.scratch.write("de.lproj/corvane.asc", Replaced(kGermanTexts, fault.sound, fault.faulty));
-    EXPECT_THAT(texts.Findings(), Contains(HasSubstr(fault.finding))) << fault.name;
+    EXPECT_THAT(texts.Findings(), Contains(std::string("de.lproj/corvane.asc") + fault.finding))
+        << fault.faulty;
   }
 }
 
-TEST(CheckTexts, FindsNothingAtTheLimits) {
+TEST(CheckTexts, FindsNothingInASoundSetUpToTheLimits) {
   std::string german = Replaced(kGermanTexts, "Linien", std::string(500, 'x'));
   german = Replaced(german, "Öffnen", std::string(8188, 'x'));
   german = Replaced(german, "Rillen", "äöü" + std::string(28, 'x'));
   const SetOfTexts texts;
+  EXPECT_THAT(texts.Findings(), IsEmpty());
   texts.scratch.write("de.lproj/corvane.asc", german);
   EXPECT_THAT(texts.Findings(), IsEmpty());
 }
 
-TEST(CheckTexts, FindsEnglishThatIsNotItsKey) {
+TEST(CheckTexts, FindsFaultsOfOtherFiles) {
   const SetOfTexts texts;
   texts.scratch.write("corvane.asc", Replaced(kEnglishTexts, ": \"Crease\"", ": \"Fold\""));
-  EXPECT_THAT(texts.Findings(),
-              ElementsAre("corvane.asc:3: the text of \"Crease\" is not the text of its key"));
-}
-
-TEST(CheckTexts, FindsAFormatThatMeansNothing) {
-  const SetOfTexts texts;
   texts.scratch.write("de.lproj/rv.asc", "Date.Formats.Short : \"%T.%M.%J\"\n");
+  texts.scratch.write("fr.lproj/corvane.asc", Replaced(kGermanTexts, "%d Linien", "%d lignes"));
   EXPECT_THAT(
       texts.Findings(),
-      ElementsAre("de.lproj/rv.asc:1: the text of \"Date.Formats.Short\" is no format of a date or time"));
+      ElementsAre("corvane.asc:3: the text of \"Crease\" is not the text of its key",
+                  "de.lproj/rv.asc:1: the text of \"Date.Formats.Short\" is no format of a date or time",
+                  "fr.lproj/rv.asc: cannot be read",
+                  "fr.lproj/rv.asc: the text of \"Date.Formats.Short\" is missing; dates asks for it"));
 }
 
-TEST(CheckTexts, FindsAMissingFile) {
+TEST(CheckTexts, FindsFaultsOfKeys) {
+  EXPECT_THAT(TextFaults({AskedKey::Kind::Alert, "100 %", "a.cpp:1"}, kEnglish, "100 %"),
+              ElementsAre("has a key that is no printf format"));
   const SetOfTexts texts;
-  std::filesystem::remove(texts.scratch.path / "de.lproj/rv.asc");
-  EXPECT_THAT(
-      texts.Findings(),
-      ElementsAre("de.lproj/rv.asc: cannot be read",
-                  "de.lproj/rv.asc: the text of \"Date.Formats.Short\" is missing; dates asks for it"));
-}
-
-TEST(CheckTexts, AnAlertMustBeAFormat) {
-  AskedKeys asked;
-  AskFor(asked, {AskedKey::Kind::Alert, "100 %", "a.cpp:1"});
-  const ScratchFolder scratch;
-  scratch.write("rv.asc", "");
-  scratch.write("corvane.asc", "\"100 %\" : \"100 %\"");
-  EXPECT_THAT(CheckTexts(scratch.path, asked),
-              ElementsAre("corvane.asc:1: the text of \"100 %\" has a key that is no printf format"));
+  const std::string key(kKeySize, 'k');
+  texts.scratch.write("corvane.asc", kEnglishTexts + key + " : x");
+  EXPECT_THAT(texts.Findings(), Contains("corvane.asc:6: the text of \"" + key + "\" has too long a key"));
 }
 
 }  // namespace

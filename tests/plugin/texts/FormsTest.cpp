@@ -13,24 +13,20 @@ namespace {
 TEST(PrintfConversions, AreTakenWhole) {
   EXPECT_THAT(PrintfConversions("%s of %-+ #05.2lf, %*.*d 100%%%zu"),
               testing::Optional(testing::ElementsAre("%s", "%-+ #05.2lf", "%*.*d", "%%", "%zu")));
-  EXPECT_THAT(PrintfConversions("none"), testing::Optional(testing::IsEmpty()));
   for (const char* const format : {"%", "100 %", "%1$s", "%n", "%hs", "%Lp", "%q", "%5", "%.", "%ll"}) {
     EXPECT_EQ(PrintfConversions(format), std::nullopt) << format;
   }
 }
 
 TEST(DateFormat, HasNoUnknownLetters) {
-  for (const char* const format : {"", "%n. %O %Y", "%02H:%02m", "%-c%%", "\\%q", "%Y年%o月", "%+03.2d"}) {
+  for (const char* const format : {"", "%n. %O %Y", "%02H:%02m", "%-c%%", "\\%q", "%Y年%o月", "%+03.2d"})
     EXPECT_TRUE(IsDateFormat(format)) << format;
-  }
-  for (const char* const format : {"%", "%0", "%q", "%M", "%Y%", "a\\", "% n", "%02%"}) {
+  for (const char* const format : {"%", "%0", "%q", "%M", "%Y%", "a\\", "% n", "%02%"})
     EXPECT_FALSE(IsDateFormat(format)) << format;
-  }
 }
 
 TEST(UTF8, IsMeasuredInUTF16Units) {
-  EXPECT_EQ(UTF16Length("aé罫𝄞"), 5U);
-  EXPECT_EQ(UTF16Length("\xF4\x8F\xBF\xBF"), 2U);
+  EXPECT_EQ(UTF16Length("aé罫𝄞\U0010FFFF"), 7U);
   for (const char* const text : {"\xE9", "\xC3", "\xC3x", "\x80", "\xC0\x80", "\xE0\x80\xAF", "\xED\xA0\x80",
                                  "\xF4\x90\x80\x80", "\xF0\x82\x82\xAC", "\xFF"}) {
     EXPECT_EQ(UTF16Length(text), std::nullopt) << text;
@@ -38,15 +34,7 @@ TEST(UTF8, IsMeasuredInUTF16Units) {
 }
 
 TEST(KeyForm, IsOneForAllWaysToWriteAKey) {
-  struct Case {
-    const char* key;
-    const char* canonical;
-  };
-  for (const Case& c :
-       {Case{"Date.Months.1", "Date.Months.1"}, Case{"Legal\\ Notices\\.", "Legal Notices\\."},
-        Case{".a\\*", "a\\*"}, Case{"a.*", "a.*"}, Case{"a\\\nb", "a\\\nb"}}) {
-    EXPECT_EQ(CanonicalKey(c.key), c.canonical) << c.key;
-  }
+  EXPECT_EQ(CanonicalKey(R"(.Legal\ Notices\.\*.*)"), R"(Legal Notices\.\*.*)");
   EXPECT_EQ(CanonicalKey(KeyOfText("a.b*\\\"\n")), KeyOfText("a.b*\\\"\n"));
 }
 

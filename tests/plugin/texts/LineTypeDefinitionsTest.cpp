@@ -1,6 +1,7 @@
 // The line types that ship with the product.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <fstream>
@@ -17,80 +18,43 @@ namespace {
 
 using nlohmann::ordered_json;
 
-struct Definition {
-  std::string group;
-  std::string name;
-  ordered_json paint;
-};
-
-ordered_json File() {
-  std::ifstream stream(std::string(CORVANE_SOURCE) + "/plugin/bundle/CurveLayerDefinition.json");
-  return ordered_json::parse(stream);
-}
-
-std::vector<Definition> Definitions() {
-  std::vector<Definition> definitions;
-  const ordered_json file = File();
-  for (const auto& [group, types] : file.at("Groups").items()) {
-    for (const ordered_json& type : types) {
-      EXPECT_TRUE(type.at("isCustomDataModel").get<bool>());
-      definitions.push_back({group, type.at("name"), type.at("customColor")});
-    }
-  }
-  return definitions;
-}
-
 using RGB = std::array<double, 3>;
 
-RGB ScreenColor(const ordered_json& paint) {
-  const std::vector<double> inks = paint.at("cmyk");
-  RGB color{};
-  for (std::size_t i = 0; i < color.size(); ++i) color[i] = (1 - inks.at(i)) * (1 - inks.at(3));
-  return color;
+RGB ScreenColor(const std::vector<double>& inks) {
+  const double light = 1 - inks[3];
+  return {(1 - inks[0]) * light, (1 - inks[1]) * light, (1 - inks[2]) * light};
 }
 
 double Distance(const RGB& a, const RGB& b) {
   return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
 }
 
-TEST(LineTypeDefinitions, BeginWithTheDefaultGroup) {
-  const ordered_json file = File();
+// By name, which is that of a layer and a spot colour, and in each group by colour: on white, and not taken
+// for a register mark, which is black.
+TEST(LineTypeDefinitions, BeginWithTheDefaultAndAreSpotColorsThatCanBeToldApart) {
+  const ordered_json file = ordered_json::parse(
+      std::ifstream(std::string(CORVANE_SOURCE) + "/plugin/bundle/CurveLayerDefinition.json"));
   EXPECT_EQ(file.at("Default"), "Standard");
   EXPECT_EQ(file.at("Groups").begin().key(), "Standard");
-}
-
-// A name is that of a layer and a spot colour: two line types of one name could not be told apart.
-TEST(LineTypeDefinitions, HaveUsableNamesThatDiffer) {
   std::set<std::string> names;
-  for (const Definition& definition : Definitions()) {
-    EXPECT_LE(UTF16Length(definition.name).value(), kLineTypeNameLength) << definition.name;
-    EXPECT_EQ(definition.name.find(kNameSeparator), std::string::npos) << definition.name;
-    EXPECT_TRUE(names.insert(definition.name).second) << definition.name;
-  }
-}
-
-TEST(LineTypeDefinitions, AreSpotColors) {
-  for (const Definition& definition : Definitions()) {
-    EXPECT_EQ(definition.paint.at("kind"), 0) << definition.name;
-    EXPECT_EQ(definition.paint.at("flag"), 1) << definition.name;
-    const std::vector<double> inks = definition.paint.at("cmyk");
-    EXPECT_EQ(inks.size(), 4U) << definition.name;
-    for (const double ink : inks) EXPECT_TRUE(ink >= 0 && ink <= 1) << definition.name;
-  }
-}
-
-// On white, and not taken for a register mark, which is black.
-TEST(LineTypeDefinitions, CanBeToldApartInTheirGroup) {
-  std::vector<Definition> seen;
-  for (Definition& definition : Definitions()) {
-    const RGB color = ScreenColor(definition.paint);
-    EXPECT_GT(Distance(color, {1, 1, 1}), 0.4) << definition.name;
-    EXPECT_GT(Distance(color, {0, 0, 0}), 0.4) << definition.name;
-    for (const Definition& other : seen) {
-      if (other.group != definition.group) continue;
-      EXPECT_GT(Distance(color, ScreenColor(other.paint)), 0.3) << definition.name << ", " << other.name;
+  for (const ordered_json& group : file.at("Groups")) {
+    std::vector<RGB> seen;
+    for (const ordered_json& type : group) {
+      const std::string name = type.at("name");
+      EXPECT_LE(UTF16Length(name).value(), kLineTypeNameLength) << name;
+      EXPECT_EQ(name.find(kNameSeparator), std::string::npos) << name;
+      EXPECT_TRUE(names.insert(name).second) << name;
+      EXPECT_EQ(type.at("isCustomDataModel"), true) << name;
+      EXPECT_EQ(type.at("customColor").at("kind"), 0) << name;
+      EXPECT_EQ(type.at("customColor").at("flag"), 1) << name;
+      const std::vector<double> inks = type.at("customColor").at("cmyk");
+      ASSERT_EQ(inks.size(), 4U) << name;
+      for (const double ink : inks) EXPECT_TRUE(ink >= 0 && ink <= 1) << name;
+      const RGB color = ScreenColor(inks);
+      EXPECT_GT(std::min(Distance(color, {1, 1, 1}), Distance(color, {0, 0, 0})), 0.4) << name;
+      for (const RGB& other : seen) EXPECT_GT(Distance(color, other), 0.3) << name;
+      seen.push_back(color);
     }
-    seen.push_back(std::move(definition));
   }
 }
 

@@ -12,8 +12,6 @@
 #include <stdexcept>
 #include <vector>
 
-#include "ScratchFolder.h"
-
 namespace texts {
 namespace {
 
@@ -28,7 +26,7 @@ const Askers kAskers[] = {
     {AskedKey::Kind::Text, {"Localize:1", "LocalizeItemText:2", "FormatLocalized:1", "TextKey:1"}},
     {AskedKey::Kind::Alert, {"ErrorAlert:1", "MessageAlert:1"}}};
 
-std::string SourceList(const fs::path& root, const std::string& folder) {
+std::vector<std::string> Sources(const fs::path& root, const std::string& folder) {
   std::vector<std::string> files;
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(root / folder)) {
     const fs::path extension = entry.path().extension();
@@ -36,9 +34,7 @@ std::string SourceList(const fs::path& root, const std::string& folder) {
       files.push_back(entry.path().lexically_relative(root).string());
   }
   std::sort(files.begin(), files.end());
-  std::string list;
-  for (const std::string& file : files) list += file + '\n';
-  return list;
+  return files;
 }
 
 void Run(std::vector<std::string> words) {
@@ -70,6 +66,12 @@ void ComplainOfTwo(int severity, po_message_t message, const char* file, std::si
   Complain(severity, message, file, line, column, multiline, text);
 }
 
+// A file without a name, which is gone when it is closed.
+struct Closer {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using ScratchFile = std::unique_ptr<std::FILE, Closer>;
+
 struct FileFreer {
   void operator()(po_file_t file) const { po_file_free(file); }
 };
@@ -77,10 +79,10 @@ struct IteratorFreer {
   void operator()(po_message_iterator_t iterator) const { po_message_iterator_free(iterator); }
 };
 
-void AskForMessages(AskedKeys& keys, AskedKey::Kind kind, const fs::path& messages) {
+void AskForMessages(AskedKeys& keys, AskedKey::Kind kind, const std::string& messages) {
   const po_xerror_handler handler = {Complain, ComplainOfTwo};
   const std::unique_ptr<po_file, FileFreer> file(po_file_read(messages.c_str(), &handler));
-  if (!file) throw std::runtime_error("cannot read " + messages.string());
+  if (!file) throw std::runtime_error("cannot read " + messages);
   const std::unique_ptr<struct po_message_iterator, IteratorFreer> iterator(
       po_message_iterator(file.get(), nullptr));
   while (po_message_t const message = po_next_message(iterator.get())) {
@@ -95,10 +97,11 @@ void AskForMessages(AskedKeys& keys, AskedKey::Kind kind, const fs::path& messag
 }  // namespace
 
 void AskForSourceTexts(AskedKeys& keys, const fs::path& root, const std::string& folder) {
-  const ScratchFolder scratch;
-  scratch.write("sources", SourceList(root, folder));
-  const std::string messages = (scratch.path / "messages.po").string();
+  const std::vector<std::string> sources = Sources(root, folder);
   for (const Askers& askers : kAskers) {
+    const ScratchFile scratch(std::tmpfile());
+    if (!scratch) throw std::runtime_error("cannot make a scratch file");
+    const std::string messages = "/proc/self/fd/" + std::to_string(fileno(scratch.get()));
     std::vector<std::string> command = {"xgettext",
                                         "--language=C++",
                                         "--from-code=UTF-8",
@@ -106,10 +109,10 @@ void AskForSourceTexts(AskedKeys& keys, const fs::path& root, const std::string&
                                         "--no-wrap",
                                         "--directory=" + root.string(),
                                         "--output=" + messages,
-                                        "--files-from=" + (scratch.path / "sources").string(),
                                         "--keyword"};
     for (const char* const function : askers.functions)
       command.push_back(std::string("--keyword=") + function);
+    command.insert(command.end(), sources.begin(), sources.end());
     Run(command);
     AskForMessages(keys, askers.kind, messages);
   }
