@@ -25,6 +25,13 @@ TEST(Hostile, KeysMayHaveAMillionComponents) {
   EXPECT_STREQ(RDB_GetString(inverted.get(), (key + "q.star").c_str()).get(), "z");
 }
 
+TEST(Hostile, TokensMayBeAHundredMegabytes) {
+  const std::string token(100u << 20, 'x');
+  const RDB_Handle db = DatabaseOf("key : \"" + token + "\" " + token + " : text");
+  EXPECT_TRUE(RDB_FindString(db.get(), nullptr, "key") == token);
+  EXPECT_STREQ(RDB_FindString(db.get(), nullptr, token.c_str()), "text");
+}
+
 const std::string kText =
     "/* a */ Group.Key : \"first \"+\n \"second\" # b\n\"A sentence\\.\" = \"Ein\\tSatz\\056\" ; c\n"
     "..x : a\\101\n*.y=b\nlast : \"end";
