@@ -185,5 +185,30 @@ TEST(ProbeArea, FindsArtInAreasOfAnySize) {
   ProbeArea({-1e300, 1e300, 1e300, -1e300});  // ends
 }
 
+TEST(AutoPositions, KeepClearOfTheArtAndOfEachOther) {
+  Drawing drawing;
+  std::mt19937 engine(7);
+  AddShapes(drawing, engine, {100, 700, 500, 100});
+  const double extent = 19.8;
+  const PositionList positions = Place(10, extent);
+  EXPECT_GE(positions.size(), 4U);
+  for (const AIRealPoint& a : positions) {
+    const double half = extent / 2;
+    EXPECT_EQ(ProbeArea({a.x - half, a.y + half, a.x + half, a.y - half}), kFree);
+    EXPECT_TRUE(a.x >= half && a.x <= 612 - half && a.y >= half && a.y <= 792 - half) << a.x << ", " << a.y;
+    for (const AIRealPoint& b : positions) {
+      if (&a != &b) {
+        EXPECT_GE(std::abs(a.x - b.x) + std::abs(a.y - b.y), 144);
+      }
+    }
+  }
+}
+
+TEST(AutoPositions, RefuseAGridBeyondAllMemory) {
+  Drawing drawing;
+  drawing.addRectangle(100, 100, 500, 700);
+  Place(6, 0.01, kOutOfMemoryErr);
+}
+
 }  // namespace
 }  // namespace Vandrell::Corvane
