@@ -24,6 +24,7 @@
 #include "Icons.h"
 #include "LoadPixmap.h"
 #include "SPBasic.h"
+#include "ScratchFolder.h"
 
 namespace {
 
@@ -38,9 +39,6 @@ constexpr int kSide = 20;        // pixels
 class IconBundle {
  public:
   IconBundle() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-bench-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    root_ = pattern;
     std::filesystem::create_directories(resources() / "txt");
     std::filesystem::create_directories(resources() / "png");
     std::ofstream table(resources() / "txt/IDToFile.txt");
@@ -50,12 +48,6 @@ class IconBundle {
       }
       draw(i);
     }
-  }
-  IconBundle(const IconBundle&) = delete;
-  IconBundle& operator=(const IconBundle&) = delete;
-  ~IconBundle() {
-    std::error_code ignored;
-    std::filesystem::remove_all(root_, ignored);
   }
 
   std::string path() const { return root_ / "Bench.bundle"; }
@@ -76,7 +68,8 @@ class IconBundle {
     if (!image.save(file(kFirst + 1000 + i))) throw std::runtime_error("cannot write an icon");
   }
 
-  std::filesystem::path root_;
+  const ScratchFolder scratch_;
+  const std::filesystem::path root_ = scratch_.path;
 };
 
 class IconBenchPlugin : public HMX_AIPlugin {

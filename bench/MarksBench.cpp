@@ -25,28 +25,19 @@
 #include "CutOption.h"
 #include "GoalTable.h"
 #include "HMX_AISuiteManager.h"
+#include "Median.h"
 #include "PlaceRegmarks.h"
 #include "Session.h"
 #include "Shapes.h"
 
 namespace {
 
+using bench::median;
 using Clock = std::chrono::steady_clock;
 using Vandrell::Corvane::CutOption;
 
 constexpr double kWidth = 600;
 constexpr double kHeight = 800;
-
-double median(int runs, const std::function<void()>& work) {
-  std::vector<double> seconds;
-  for (int i = 0; i < runs; ++i) {
-    const auto start = Clock::now();
-    work();
-    seconds.push_back(std::chrono::duration<double>(Clock::now() - start).count());
-  }
-  std::sort(seconds.begin(), seconds.end());
-  return seconds[seconds.size() / 2];
-}
 
 void holdSuites(host::Host& host) {
   HMX_AISuiteManager& suites = HMX_AISuiteManager::Instance();

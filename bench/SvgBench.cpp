@@ -16,10 +16,13 @@
 
 #include "AtomicFile.h"
 #include "GoalTable.h"
+#include "Median.h"
+#include "ScratchFolder.h"
 #include "SvgDrawing.h"
 
 namespace {
 
+using bench::median;
 using Clock = std::chrono::steady_clock;
 
 // Closed shapes of twelve cubics each, as drawing programs write them, until the text is long enough.
@@ -44,17 +47,6 @@ std::string drawingOfSize(std::size_t bytes) {
     svg += " Z\"/>\n";
   }
   return svg + "</svg>\n";
-}
-
-double median(int runs, const std::function<void()>& work) {
-  std::vector<double> seconds;
-  for (int i = 0; i < runs; ++i) {
-    const auto start = Clock::now();
-    work();
-    seconds.push_back(std::chrono::duration<double>(Clock::now() - start).count());
-  }
-  std::sort(seconds.begin(), seconds.end());
-  return seconds[seconds.size() / 2];
 }
 
 std::string readBytes(const std::string& file) {
@@ -109,12 +101,11 @@ BENCHMARK(BM_OpenSmallDrawing);
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   // In a process that has not grown yet, so that the peak is that of the drawing.
-  std::string pattern = (std::filesystem::temp_directory_path() / "corvane-bench-XXXXXX").string();
-  const std::string folder = mkdtemp(pattern.data());
+  const ScratchFolder scratch;
+  const std::string folder = scratch.path.string();
   double memory = 0;
   const Figures large = measure(50, folder, &memory);
   const Figures small = measure(10, folder, nullptr);
-  std::filesystem::remove_all(folder);
   benchmark::RunSpecifiedBenchmarks();
 
   bench::GoalTable table;

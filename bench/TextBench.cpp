@@ -22,6 +22,7 @@
 #include "Localize.h"
 #include "RDB.h"
 #include "ResourceLocation.h"
+#include "ScratchFolder.h"
 #include "Sentences.h"
 #include "TextModules.h"
 
@@ -32,31 +33,6 @@ using bench::Sentence;
 
 constexpr int kCount = 2000;
 constexpr char kContext[] = "bench";
-
-class Scratch {
- public:
-  Scratch() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "corvane-bench-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    path_ = pattern;
-  }
-  Scratch(const Scratch&) = delete;
-  Scratch& operator=(const Scratch&) = delete;
-  ~Scratch() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  std::string write(const std::string& name, const std::string& text) const {
-    std::filesystem::create_directories((path_ / name).parent_path());
-    std::ofstream(path_ / name, std::ios::binary) << text;
-    return (path_ / name).string();
-  }
-  std::string file(const std::string& name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
-};
 
 void run(const std::string& command) {
   if (std::system(command.c_str()) != 0)
@@ -134,7 +110,7 @@ double bytesPerEntry(const std::string& path) {
 }
 
 int judge() {
-  const Scratch scratch;
+  const ScratchFolder scratch;
   std::vector<Sentence> present = bench::sentences(kCount, 1), missing = bench::sentences(kCount, 2);
   const std::string ours = scratch.write("B.bundle/Contents/Resources/texts.asc", bench::asTextFile(present));
   run("msgfmt -o '" + scratch.file("m.mo") + "' '" + scratch.write("m.po", bench::asPortableObject(present)) +

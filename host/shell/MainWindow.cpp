@@ -34,11 +34,9 @@ std::vector<std::string> localFiles(const QMimeData& data) {
   return files;
 }
 
-// An action's text; `step` is shown as it is, but for the dots behind a command that asks something.
+// An action's text with the step that it undoes or redoes.
 QString withStep(const char* text, const std::string& step) {
-  QString name = QString::fromStdString(step).replace('&', "&&");
-  while (name.endsWith('.') || name.endsWith(QChar(0x2026))) name.chop(1);
-  return (QString(text) + " " + name).trimmed();
+  return (QString(text) + " " + QString::fromStdString(step).replace('&', "&&")).trimmed();
 }
 
 }  // namespace

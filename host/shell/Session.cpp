@@ -26,9 +26,9 @@ std::string codeText(SPErr code) {
 
 // A menu's text without the dots that promise a dialog.
 std::string commandName(std::string text) {
-  constexpr std::string_view kDots = "...";
-  if (text.size() > kDots.size() && text.compare(text.size() - kDots.size(), kDots.size(), kDots) == 0) {
-    text.resize(text.size() - kDots.size());
+  for (const std::string_view dots : {"...", "\u2026"}) {
+    const std::size_t name = text.size() - std::min(dots.size(), text.size());
+    if (name > 0 && text.compare(name, dots.size(), dots) == 0) text.resize(name);
   }
   return text;
 }

@@ -27,9 +27,10 @@ const char* FindSentence(const TextState& state, const char* text, std::size_t& 
 
 const char* Localize(const char* text) {
   if (text == nullptr || text[0] == '\0') return text;
-  EnsureTextInitialised();
+  const TextState& state = TheTextState();
+  if (state.textInitialised == 0) EnsureTextInitialised();
   std::size_t length = 0;
-  const char* found = FindSentence(TheTextState(), text, length);
+  const char* found = FindSentence(state, text, length);
   return found != nullptr ? InResultBuffer(found, length) : text;
 }
 

@@ -4,15 +4,7 @@
 
 #include "CopyUTF8.h"
 
-namespace {
-
-TextState textState;  // asked for at every label, and never before the library is loaded
-
-}  // namespace
-
-TextState& TheTextState() {
-  return textState;
-}
+TextState theTextState;
 
 const char* InResultBuffer(const char* text, std::size_t length) {
   char* result = TheTextState().result;

@@ -23,7 +23,12 @@ struct TextState {
   char result[kTextSize] = "";  // what Localize and its relatives give out
 };
 
-TextState& TheTextState();
+// Asked for at every label, and never before the library is loaded.
+extern TextState theTextState;
+
+inline TextState& TheTextState() {
+  return theTextState;
+}
 
 // Copies into the buffer `result` of TheTextState and gives that back. What is longer is cut, in front of the
 // first character that is not whole.

@@ -8,25 +8,13 @@ int rdbError = kRDBNoError;
 
 namespace {
 
-constexpr char kMarker[] = "-RVRDB-";
 constexpr char kRootName[] = "RVRDB";
 
 }  // namespace
 
 RDB_Database::RDB_Database() : root(RDB_PartOfName(kRootName), kRootName, nullptr) {
-  static_assert(sizeof kMarker == sizeof marker, "the marker fills its field");
-  std::memcpy(marker, kMarker, sizeof marker);
-}
-
-bool RDB_IsDatabase(const RDB_Database* db) {
-  const bool isOne = db != nullptr && std::memcmp(db->marker, kMarker, sizeof kMarker) == 0;
-  if (!isOne) rdbError = kRDBBadHandle;
-  return isOne;
-}
-
-bool RDB_Begin(const RDB_Database* db) {
-  rdbError = kRDBNoError;
-  return RDB_IsDatabase(db);
+  static_assert(sizeof kRDBMarker == sizeof marker, "the marker fills its field");
+  std::memcpy(marker, kRDBMarker, sizeof marker);
 }
 
 RDB_Handle RDB_Create() {

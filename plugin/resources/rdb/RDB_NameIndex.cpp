@@ -7,31 +7,25 @@ constexpr unsigned kFirstShift = 26;  // 2^(32 - 26) places
 
 }  // namespace
 
-RDB_NameIndex::RDB_NameIndex()
-    : marks_(kFirstPlaces), nodes_(kFirstPlaces), mask_(kFirstPlaces - 1), shift_(kFirstShift) {}
+RDB_NameIndex::RDB_NameIndex() : places_(kFirstPlaces), mask_(kFirstPlaces - 1), shift_(kFirstShift) {}
 
 void RDB_NameIndex::Add(RDB_Node& node) {
-  if (4 * (count_ + 1) > nodes_.size()) Grow();
-  const std::size_t place = PlaceOf(node.Part());
-  if (nodes_[place] == nullptr) ++count_;
-  marks_[place] = MarkOf(node.hash);
-  nodes_[place] = &node;
+  if (2 * (count_ + 1) > places_.size()) Grow();
+  Place& place = places_[PlaceOf(node.Part())];
+  if (place.mark == 0) ++count_;
+  place = {MarkOf(node.hash), &node};
 }
 
 // No two of the nodes are called the same, so each goes to the next free place.
 void RDB_NameIndex::Grow() {
-  const std::size_t size = 2 * nodes_.size();
-  std::vector<unsigned> marks(size);
-  std::vector<RDB_Node*> nodes(size);
-  marks_.swap(marks);
-  nodes_.swap(nodes);
-  mask_ = size - 1;
+  std::vector<Place> old(2 * places_.size());
+  old.swap(places_);
+  mask_ = places_.size() - 1;
   if (shift_ > 0) --shift_;
-  for (std::size_t at = 0; at < marks.size(); ++at) {
-    if (marks[at] == 0) continue;
-    std::size_t place = FirstPlaceOf(marks[at]);
-    while (marks_[place] != 0) place = (place + 1) & mask_;
-    marks_[place] = marks[at];
-    nodes_[place] = nodes[at];
+  for (const Place& place : old) {
+    if (place.mark == 0) continue;
+    std::size_t at = FirstPlaceOf(place.mark);
+    while (places_[at].mark != 0) at = (at + 1) & mask_;
+    places_[at] = place;
   }
 }

@@ -6,21 +6,25 @@
 
 #include "RDB_Node.h"
 
-// A table with open addressing, at most a quarter full so that misses end at once. Of the nodes with the same
-// bucket and name it knows the one that was added last, which is the first of them in the bucket. It does not
-// own the nodes.
+// A table with open addressing, at most half full. Of the nodes with the same bucket and name it knows the
+// one that was added last, which is the first of them in the bucket. It does not own the nodes.
 class RDB_NameIndex {
  public:
   RDB_NameIndex();
 
   // Null if there is none.
-  RDB_Node* Find(const RDB_KeyPart& part) const { return nodes_[PlaceOf(part)]; }
+  RDB_Node* Find(const RDB_KeyPart& part) const { return places_[PlaceOf(part)].node; }
   // Throws std::bad_alloc, and has done nothing then.
   void Add(RDB_Node& node);
 
  private:
-  // What is compared first, 0 for a free place: so the node is touched only if it is the one looked for, and
-  // the table of marks stays small enough for the nearest cache.
+  // The mark is compared first, so the node is touched only if it is the one looked for. It stands beside the
+  // node, for a lookup in texts that are asked for now and then waits for memory at each step.
+  struct Place {
+    unsigned mark = 0;  // 0: free
+    RDB_Node* node = nullptr;
+  };
+
   static unsigned MarkOf(unsigned hash) { return hash | 1u; }
   // The product spreads the hashes of short names, which fill the low bits only (Knuth, The Art of Computer
   // Programming 3, 6.4).
@@ -29,14 +33,15 @@ class RDB_NameIndex {
   std::size_t PlaceOf(const RDB_KeyPart& part) const {
     const unsigned mark = MarkOf(part.hash);
     std::size_t at = FirstPlaceOf(mark);
-    while (marks_[at] != 0 && (marks_[at] != mark || !nodes_[at]->IsCalled(part))) at = (at + 1) & mask_;
+    while (places_[at].mark != 0 && (places_[at].mark != mark || !places_[at].node->IsCalled(part))) {
+      at = (at + 1) & mask_;
+    }
     return at;
   }
   void Grow();
 
-  std::vector<unsigned> marks_;   // a power of two of them
-  std::vector<RDB_Node*> nodes_;  // in the same places
-  std::size_t mask_;              // from any number to a place
-  unsigned shift_;                // from 32 bits of hash to a place
+  std::vector<Place> places_;  // a power of two of them
+  std::size_t mask_;           // from any number to a place
+  unsigned shift_;             // from 32 bits of hash to a place
   std::size_t count_ = 0;
 };
