@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "AIDocument.h"
 #include "DocumentState.h"
 #include "ObjectTable.h"
 
@@ -27,6 +28,8 @@ class Document {
   std::uint32_t serial() const { return serial_; }  // no two documents of a process share one
   double scale() const { return scale_; }           // points in a document unit
   void setScale(double pointsPerUnit) { scale_ = pointsPerUnit; }
+  AIRulerUnits rulerUnits() const { return rulerUnits_; }
+  void setRulerUnits(AIRulerUnits units) { rulerUnits_ = units; }
 
   // --- reading ---
   const Art* art(ArtId id) const { return art_.find(id); }  // null if there is none or it was deleted
@@ -107,6 +110,7 @@ class Document {
 
   std::uint32_t serial_;
   double scale_ = 1.0;
+  AIRulerUnits rulerUnits_ = kPointRuler;
   std::uint64_t revision_ = 1;
   ObjectTable<Art> art_;
   ObjectTable<Layer> layers_;

@@ -33,6 +33,24 @@ std::string asWritten(std::string_view name, std::string_view text) {
   return std::string(name) + "=" + quoted(text);
 }
 
+// A drawing in pixels is measured in points: its pixels are not those of the rulers.
+AIRulerUnits rulerUnitsOf(SvgUnit unit) {
+  switch (unit) {
+    case SvgUnit::In:
+      return kInchRuler;
+    case SvgUnit::Cm:
+      return kCentimeterRuler;
+    case SvgUnit::Mm:
+      return kMillimeterRuler;
+    case SvgUnit::Pc:
+      return kPicaRuler;
+    case SvgUnit::Q:
+      return kQRuler;
+    default:
+      return kPointRuler;
+  }
+}
+
 class PageReader {
  public:
   PageReader(const SvgSource& source, SvgRemarks& remarks) : source_(source), remarks_(remarks) {}
@@ -43,6 +61,7 @@ class PageReader {
     if (!checkLength("width", pixelWidth_) || !checkLength("height", pixelHeight_)) return error_;
     SvgPage page;
     page.scale = readScale();
+    if (width_.isGiven()) page.rulerUnits = rulerUnitsOf(width_.length->unit);
     placeRoot(page);
     readArtboards(page);
     return page;

@@ -4,6 +4,7 @@
 #include <variant>
 #include <vector>
 
+#include "AIDocument.h"
 #include "DocumentState.h"
 #include "SvgRemarks.h"
 #include "SvgSource.h"
@@ -12,6 +13,7 @@ namespace host {
 
 struct SvgPage {
   double scale = 1;  // points in a document unit
+  AIRulerUnits rulerUnits = kPointRuler;
   AIRealMatrix documentFromRoot{};
   AIRealMatrix documentFromPixels{};  // the page's CSS pixels, y down
   double innerWidth = 0;              // what percentages in the root's user space refer to

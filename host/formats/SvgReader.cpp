@@ -31,6 +31,7 @@ void readContent(const SvgPage& page, const TextOutliner* outliner, SvgRemarks& 
   const SvgSource& source = *drawing.source;
   Document& document = *drawing.document;
   document.setScale(page.scale);
+  document.setRulerUnits(page.rulerUnits);
   document.editState().artboards = page.artboards;
   for (const NodeIndex node : readSwatches(source, document)) {
     remarks.add(node, "it is not understood and was left out of account");

@@ -47,6 +47,14 @@ AIErr getDocumentScale(Host& host, AIReal* scale) {
   return kNoErr;
 }
 
+AIErr getDocumentRulerUnits(Host& host, std::int16_t* units) {
+  if (units == nullptr) return kBadParameterErr;
+  const Document* document = host.currentDocument();
+  if (document == nullptr) return kNoDocumentErr;
+  *units = document->rulerUnits();
+  return kNoErr;
+}
+
 }  // namespace
 
 SuiteOffer documentSuite() {
@@ -56,6 +64,7 @@ SuiteOffer documentSuite() {
       entries.add<getDocumentSetup>("GetDocumentSetup"),
       entries.add<getDocumentOrigin>("GetDocumentOrigin"),
       entries.add<getDocumentScale>("GetDocumentScale"),
+      entries.add<getDocumentRulerUnits>("GetDocumentRulerUnits"),
   };
   return entries.offer(kAIDocumentSuiteVersion, &table);
 }

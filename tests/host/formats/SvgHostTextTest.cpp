@@ -132,5 +132,16 @@ TEST(SvgHostText, ReportsSwatchesThatItCannotRead) {
   EXPECT_EQ(color.definition.c.lab.a, -100);
 }
 
+TEST(SvgPage, MeasuresInTheUnitOfItsWidth) {
+  const std::pair<const char*, AIRulerUnits> cases[] = {
+      {"10mm", kMillimeterRuler}, {"10cm", kCentimeterRuler}, {"10in", kInchRuler},
+      {"10pc", kPicaRuler},       {"10q", kQRuler},           {"10pt", kPointRuler},
+      {"10px", kPointRuler},      {"10", kPointRuler},        {"10%", kPointRuler}};
+  for (const auto& [width, expected] : cases) {
+    const std::string start = R"(<svg xmlns="http://www.w3.org/2000/svg" height="1in" width=")";
+    EXPECT_EQ(readDrawing(start + width + "\"/>").document->rulerUnits(), expected) << width;
+  }
+}
+
 }  // namespace
 }  // namespace host
