@@ -12,6 +12,8 @@ struct AICustomColorSuite {
                           AICustomColorHandle* color);
   AIErr (*GetCustomColor)(AICustomColorHandle color, AICustomColor* definition);
   AIErr (*GetCustomColorName)(AICustomColorHandle color, AIUnicodeStringHandle name);
+  // Of the current document, and there still?
+  AIErr (*IsValid)(AICustomColorHandle color, AIBoolean* isValid);
 };
 
 extern const AICustomColorSuite* sAICustomColor;

@@ -46,6 +46,14 @@ using AIFilePathHandle = struct AIFilePathRecord*;
 using AIArtboardListHandle = struct AIArtboardListRecord*;
 using AIArtboardPropertiesHandle = struct AIArtboardPropertiesRecord*;
 using SPFileRef = struct SPFileRecord*;
+using AIAppContextHandle = struct AIAppContextRecord*;
+using AIPanelRef = struct AIPanelRecord*;
+using AIPanelFlyoutMenuRef = struct AIPanelFlyoutMenuRecord*;
+
+// Of a panel, in units of the host's interface.
+struct AISize {
+  AIReal width, height;
+};
 
 struct AIRealPoint {
   AIReal x, y;

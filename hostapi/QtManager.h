@@ -11,6 +11,14 @@ namespace RVADMQtManager {
 // Type of the custom event that every widget gets when the brightness of the interface has changed.
 constexpr int kThemeChangedEvent = 1456;
 
+// Dynamic properties of widgets that the control style reads.
+constexpr char kIsDefaultProperty[] = "_rvadm_isdefault";          // bool: a button with the default look
+constexpr char kIsModalButtonProperty[] = "_rvadm_ismodalbutton";  // bool: one that closes a modal dialog
+// QIcon: what a picture in a field shows while the field is active, and what it goes back to, which stands
+// there only meanwhile.
+constexpr char kActiveInputIconProperty[] = "_rvadm_activeinputicon";
+constexpr char kInactiveInputIconProperty[] = "_rvadm_inactiveinputicon";
+
 enum EControlColor : int {
   kControlBackground = 0,
 };
@@ -20,7 +28,7 @@ class QtManager {
   // Called once by every plug-in before any other operation; not owned.
   static void SetSPBasicSuite(const SPBasicSuite* basic);
 
-  // While at least one dialog is counted the host takes no menu command and no tool message.
+  // How many dialogs of plug-ins there are, palettes among them.
   static void IncreaseDialogCount();
   static void DecreaseDialogCount();  // never below 0
   // The same when `dialog`, which is being destroyed, is gone and the event loop, if one runs, has delivered

@@ -33,7 +33,10 @@ enum class HandleKind : std::uint8_t {
   ArtboardProperties,
   ResourceManager,
   DataFilter,
-  AnnotatorDrawer
+  AnnotatorDrawer,
+  AppContext,
+  Panel,
+  PanelFlyoutMenu
 };
 
 using ObjectId = std::uint32_t;  // 0 names nothing

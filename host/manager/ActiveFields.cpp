@@ -7,13 +7,14 @@
 #include <QVariant>
 #include <QWidget>
 
+#include "QtManager.h"
 #include "ThemePalette.h"
 
 namespace host {
 namespace {
 
-constexpr char kActiveIcon[] = "_rvadm_activeinputicon";
-constexpr char kInactiveIcon[] = "_rvadm_inactiveinputicon";
+using RVADMQtManager::kActiveInputIconProperty;
+using RVADMQtManager::kInactiveInputIconProperty;
 constexpr char kIcon[] = "icon";
 constexpr char kRecoloured[] = "_host_recoloured";
 
@@ -22,16 +23,16 @@ bool holdsIcon(const QVariant& value) {
 }
 
 void showActiveIcon(QObject& picture) {
-  const QVariant active = picture.property(kActiveIcon);
-  if (!holdsIcon(active) || holdsIcon(picture.property(kInactiveIcon))) return;
-  picture.setProperty(kInactiveIcon, picture.property(kIcon));
+  const QVariant active = picture.property(kActiveInputIconProperty);
+  if (!holdsIcon(active) || holdsIcon(picture.property(kInactiveInputIconProperty))) return;
+  picture.setProperty(kInactiveInputIconProperty, picture.property(kIcon));
   picture.setProperty(kIcon, active);
 }
 
 void showInactiveIcon(QObject& picture) {
-  const QVariant inactive = picture.property(kInactiveIcon);
+  const QVariant inactive = picture.property(kInactiveInputIconProperty);
   if (!holdsIcon(inactive)) return;
-  picture.setProperty(kInactiveIcon, QVariant());
+  picture.setProperty(kInactiveInputIconProperty, QVariant());
   picture.setProperty(kIcon, inactive);
 }
 

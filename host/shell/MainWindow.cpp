@@ -12,6 +12,7 @@
 #include "AlertBox.h"
 #include "DrawingTabs.h"
 #include "DrawingView.h"
+#include "GuardedApplication.h"
 #include "Host.h"
 #include "HostWindow.h"
 #include "ProgramName.h"
@@ -52,7 +53,9 @@ MainWindow::MainWindow(Host& host, Session& session, FileChooser chooser)
       tools_(*this, host, session,
              {[this](const OpenDocument& open) { return tabs_->viewOf(open); },
               [this](bool drawingHasChanged) { toolDone(drawingHasChanged); },
-              [this](const std::string& title, SPErr code) { tellFailure(title, code); }}) {
+              [this](const std::string& title, SPErr code) { tellFailure(title, code); }}),
+      panels_(*this, host, [this] { refreshLater(); }),
+      pickers_(host, *this) {
   setHostWindow(this);
   setAcceptDrops(true);
   setContextMenuPolicy(Qt::PreventContextMenu);
@@ -64,12 +67,18 @@ MainWindow::MainWindow(Host& host, Session& session, FileChooser chooser)
     showAlertBox(alert, this);
   };
   host_.onViewChange = [this](const OpenDocument&) { tabs_->refresh(); };
+  host_.onPluginFailure = GuardedApplication::report;
+  host_.contexts().onEnd = [this] { refreshLater(); };
+  refreshTimer_.setSingleShot(true);
+  connect(&refreshTimer_, &QTimer::timeout, this, [this] { refreshDrawings(); });
   refresh();
 }
 
 MainWindow::~MainWindow() {
   host_.showAlert = nullptr;
   host_.onViewChange = nullptr;
+  host_.onPluginFailure = nullptr;
+  host_.contexts().onEnd = nullptr;
   delete tabs_;  // the views go before the drawings they show
 }
 
@@ -168,6 +177,7 @@ void MainWindow::chooseTheme(Theme theme) {
   setTheme(theme);
   session_.notify(kAIUIBrightnessChangedNotifier);
   tools_.refresh();
+  panels_.refresh();
 }
 
 void MainWindow::tellFailure(const std::string& command, SPErr code) {
@@ -181,6 +191,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (!mayLose(*drawing)) return;
   }
   while (OpenDrawing* drawing = workspace_.current()) dropDrawing(*drawing);
+  panels_.rememberForGood();
   event->accept();
 }
 
@@ -271,10 +282,20 @@ void MainWindow::turnedTo(OpenDrawing& drawing) {
 
 void MainWindow::refresh() {
   tools_.refresh();
+  refreshDrawings();
+}
+
+void MainWindow::refreshDrawings() {
   tabs_->refresh();
+  setFocusProxy(tabs_->drawings() > 0 ? &tabs_->viewAt(tabs_->current()) : nullptr);
   refreshActions();
   listDocuments();
+  listPanels();
   menus_.refresh();
+}
+
+void MainWindow::refreshLater() {
+  refreshTimer_.start(0);
 }
 
 void MainWindow::refreshActions() {
@@ -304,6 +325,12 @@ void MainWindow::listDocuments() {
     documents_ << action;
   }
   menus_.setOwnItems("Documents", documents_);
+}
+
+void MainWindow::listPanels() {
+  for (QAction* action : panelItems_) action->deleteLater();
+  panelItems_ = panels_.makeActions();
+  menus_.setOwnItems("Panels", panelItems_);
 }
 
 }  // namespace host

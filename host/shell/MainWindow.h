@@ -2,12 +2,15 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "FileChooser.h"
 #include "MenuBar.h"
+#include "PanelDesk.h"
+#include "Pickers.h"
 #include "Theme.h"
 #include "ToolDesk.h"
 #include "Workspace.h"
@@ -64,7 +67,10 @@ class MainWindow : public QMainWindow {
   void turnedTo(OpenDrawing& drawing);
 
   void refreshActions();
+  void refreshLater();  // what plug-ins may have changed outside messages
+  void refreshDrawings();
   void listDocuments();
+  void listPanels();
 
   Host& host_;
   Session& session_;
@@ -73,12 +79,16 @@ class MainWindow : public QMainWindow {
   DrawingTabs* tabs_ = nullptr;
   MenuBar menus_;
   ToolDesk tools_;
+  PanelDesk panels_;
+  Pickers pickers_;
   QAction* save_ = nullptr;
   QAction* saveAs_ = nullptr;
   QAction* close_ = nullptr;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
   QList<QAction*> documents_;  // those of the menu Window
+  QList<QAction*> panelItems_;
+  QTimer refreshTimer_;
 };
 
 }  // namespace host

@@ -1,14 +1,18 @@
 #include <filesystem>
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <set>
 #include <utility>
 
 #include "AlertLine.h"
 #include "Bounds.h"
 #include "Commands.h"
+#include "DialogAnswerer.h"
 #include "DrawingFile.h"
 #include "DrawingReport.h"
+#include "HiddenPanels.h"
+#include "OffscreenApplication.h"
 #include "ProductCommands.h"
 #include "Session.h"
 #include "Startup.h"
@@ -76,6 +80,8 @@ class MarksRun {
       return kExitUsage;
     }
     host_.showAlert = [](const Alert& alert) { std::cerr << alertLine(alert) << '\n'; };
+    ensureApplication();
+    answerer_.emplace(host_);
     if (const std::string reason = loadPlugin(session_, common_); !reason.empty()) {
       complain(reason);
       refusals_.tell(host_);
@@ -167,6 +173,8 @@ class MarksRun {
   const MarksArguments& arguments_;
   const CommonOptions& common_;
   Host host_;
+  HiddenPanels panels_{host_};
+  std::optional<DialogAnswerer> answerer_;  // while plug-ins are at work
   Session session_;
   std::vector<std::pair<std::string, std::string>> jobs_;  // input and output
   RefusalReport refusals_;

@@ -1,7 +1,6 @@
 #include "OffscreenApplication.h"
 
-#include <QApplication>
-
+#include "GuardedApplication.h"
 #include "ProgramName.h"
 
 namespace host {
@@ -19,7 +18,7 @@ void ensureApplication() {
   static std::string name = kProgramName;
   static char* argv[] = {name.data(), nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  static const QApplication application(argc, argv);
+  static const GuardedApplication application(argc, argv);
   qInstallMessageHandler(before);
 }
 

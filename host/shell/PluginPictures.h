@@ -11,11 +11,15 @@ namespace host {
 
 class Host;
 class ResourceTable;
+struct PanelRecord;
 struct ToolRecord;
 
 // In single and double resolution, for the ground of the theme. The application's own tools share an arrow;
 // a plug-in's tool without a picture has none.
 QIcon toolIcon(Host& host, const ToolRecord& tool, Theme theme);
+
+// The same for a panel; null if its plug-in has given it none.
+QIcon panelIcon(Host& host, const PanelRecord& panel, Theme theme);
 
 // The hot spot is the middle of the picture; without a picture it is a cross. `ratio`: device pixels a pixel.
 QCursor pictureCursor(const ResourceTable& pictures, std::int32_t id, double ratio);

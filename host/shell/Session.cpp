@@ -1,12 +1,12 @@
 #include "Session.h"
 
+#include <QApplication>
 #include <algorithm>
 #include <string_view>
 #include <utility>
 
 #include "AIMenu.h"
 #include "AINotifier.h"
-#include "QtManager.h"
 #include "UndoStep.h"
 
 namespace host {
@@ -81,7 +81,9 @@ void Session::makeCurrent(const Document& document) {
 }
 
 bool Session::takesCommands() const {
-  return RVADMQtManager::QtManager::DialogCount() == 0 && !host_.alertIsUp();
+  const bool hasDialog =
+      QCoreApplication::instance() != nullptr && QApplication::activeModalWidget() != nullptr;
+  return !hasDialog && !host_.alertIsUp();
 }
 
 std::optional<SPErr> Session::chooseMenuItem(AIMenuItemHandle handle) {
@@ -160,12 +162,14 @@ SPErr Session::sendTo(LoadedPlugin& plugin, const char* caller, const char* sele
   message.globals = plugin.globals;
   message.basic = host_.basic();
   const UndoStep step(host_.documents(), stepName.empty() ? "Change" : stepName);
+  const std::size_t depth = host_.contexts().depth();
   SPErr code = kSPExceptionError;
   try {
     code = plugin.bundle.entry()(caller, selector, &message);
   } catch (...) {
     code = kSPExceptionError;
   }
+  host_.contexts().popTo(depth);
   plugin.globals = message.globals;
   return code;
 }

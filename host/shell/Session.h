@@ -32,7 +32,8 @@ class Session {
   void closeDocument(const Document& document);
   void makeCurrent(const Document& document);  // must be open
 
-  // False while a plug-in's dialog or an alert waits for its answer: until then no command reaches a plug-in.
+  // False while a dialog or an alert waits for its answer: until then no command reaches a plug-in. Panels
+  // do not wait.
   bool takesCommands() const;
   // Chooses an item as a user would. Nullopt if there is no such item, it is disabled, or no command may
   // reach a plug-in now; else the plug-in's result code.
@@ -45,7 +46,7 @@ class Session {
   void shutdown();
 
   // One message to one plug-in, as a step of its own if `stepName` is not empty. An exception that comes
-  // out of it counts as kSPExceptionError.
+  // out of it counts as kSPExceptionError; contexts that the plug-in has left behind are ended.
   SPErr send(SPPluginRef plugin, const char* caller, const char* selector, SPMessageData& message,
              const std::string& stepName = {});
   void notify(const char* type, void* data = nullptr);

@@ -1,7 +1,5 @@
 #include <QApplication>
 #include <QBuffer>
-#include <QDeadlineTimer>
-#include <QWindow>
 #include <clocale>
 #include <cstdlib>
 #include <iostream>
@@ -10,6 +8,7 @@
 #include "Commands.h"
 #include "Display.h"
 #include "DrawingFile.h"
+#include "GuardedApplication.h"
 #include "KeyModifiers.h"
 #include "MainWindow.h"
 #include "Platform.h"
@@ -18,13 +17,13 @@
 #include "Session.h"
 #include "Startup.h"
 #include "Theme.h"
+#include "WindowPicture.h"
 
 namespace host {
 namespace {
 
 constexpr char kNoDisplay[] =
     "there is no display to open a window on; the commands marks, export and info work without one";
-constexpr int kMillisecondsToAppear = 3000;
 
 // Qt ends the process when the display does not answer.
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
@@ -91,15 +90,13 @@ class WindowRun {
   // Nobody is there to answer boxes, and nothing is stored.
   ExitCode takePicture(MainWindow& window) {
     host_.showAlert = [](const Alert& alert) { std::cerr << alertLine(alert) << '\n'; };
+    WindowPicture picture(window);
     std::vector<std::string> complaints = start(window);
-    const QDeadlineTimer deadline(kMillisecondsToAppear);
-    while (!window.windowHandle()->isExposed() && !deadline.hasExpired()) {
-      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
-    }
-    QCoreApplication::processEvents();
+    if (picture.image().isNull()) QApplication::exec();
+    session_.shutdown();
     QByteArray png;
     QBuffer buffer(&png);
-    window.grab().toImage().save(&buffer, "PNG");
+    picture.image().save(&buffer, "PNG");
     const std::string_view bytes(png.constData(), static_cast<std::size_t>(png.size()));
     if (std::string reason = saveBytes(arguments_.screenshot, bytes); !reason.empty()) {
       complaints.push_back(std::move(reason));
@@ -128,7 +125,7 @@ ExitCode runWindow(const WindowArguments& arguments, const CommonOptions& common
   int argc = 1;
   std::string name = kProgramName;
   char* argv[] = {name.data(), nullptr};
-  QApplication application(argc, argv);
+  GuardedApplication application(argc, argv);
   qInstallMessageHandler(before);
   std::setlocale(LC_NUMERIC,
                  "C");  // Qt has taken over the user's locale, which must not reach numbers in files

@@ -48,6 +48,13 @@ AIErr getCustomColorName(Host& host, AICustomColorHandle color, AIUnicodeStringH
   return found ? writeString(host, name, found->name) : kBadParameterErr;
 }
 
+AIErr isValid(Host& host, AICustomColorHandle color, AIBoolean* answer) {
+  if (answer == nullptr) return kBadParameterErr;
+  const auto found = findCustomColor(host, color);
+  *answer = found && found.document == host.currentDocument() ? 1 : 0;
+  return kNoErr;
+}
+
 }  // namespace
 
 SuiteOffer customColorSuite() {
@@ -56,6 +63,7 @@ SuiteOffer customColorSuite() {
       entries.add<newCustomColor>("NewCustomColor"),
       entries.add<getCustomColor>("GetCustomColor"),
       entries.add<getCustomColorName>("GetCustomColorName"),
+      entries.add<isValid>("IsValid"),
   };
   return entries.offer(kAICustomColorSuiteVersion, &table);
 }

@@ -3,27 +3,14 @@
 #include <numeric>
 #include <utility>
 
+#include "Counted.h"
+#include "FailureSentence.h"
 #include "HitTests.h"
 #include "HostObjects.h"
 #include "SPBasic.h"
 #include "SuiteCatalog.h"
 
 namespace host {
-namespace {
-
-class Counted {
- public:
-  explicit Counted(int& count) : count_(count) { ++count_; }
-  Counted(const Counted&) = delete;
-  Counted& operator=(const Counted&) = delete;
-  ~Counted() { --count_; }
-
- private:
-  int& count_;
-};
-
-}  // namespace
-
 Host* Host::current_ = nullptr;
 
 Host::Host(Preferences preferences, Folders folders)
@@ -63,6 +50,15 @@ void Host::alert(AlertKind kind, std::string text) {
   alerts_.push_back({kind, std::move(text)});
   const Counted up(alertsUp_);
   if (showAlert) showAlert(Alert(alerts_.back()));
+}
+
+void Host::pluginFailed() {
+  const std::string sentence = failureSentence();
+  if (onPluginFailure) {
+    onPluginFailure(sentence);
+  } else {
+    alert(AlertKind::Error, sentence);
+  }
 }
 
 std::int32_t& Host::holdCount(const SuiteOffer& offer) {

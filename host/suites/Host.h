@@ -9,9 +9,12 @@
 #include <vector>
 
 #include "AIAnnotator.h"
+#include "AIColor.h"
+#include "Contexts.h"
 #include "Documents.h"
 #include "Folders.h"
 #include "MenuTable.h"
+#include "PanelTable.h"
 #include "Preferences.h"
 #include "Refusal.h"
 #include "Registrations.h"
@@ -60,6 +63,8 @@ class Host {
   Registry<AnnotatorRecord>& annotators() { return annotators_; }
   MenuTable& menus() { return menus_; }
   ToolTable& tools() { return tools_; }
+  PanelTable& panels() { return panels_; }
+  Contexts& contexts() { return contexts_; }
 
   // The pictures of a plug-in's bundle, read when they are first asked for; none for a stranger.
   const ResourceTable& pictures(SPPluginRef plugin);
@@ -76,6 +81,11 @@ class Host {
   void alert(AlertKind kind, std::string text);
   bool alertIsUp() const { return alertsUp_ > 0; }  // shown and not answered yet
 
+  // For a plug-in's exception that nobody awaits, within its handler: passes one sentence on it to
+  // `onPluginFailure` or, if that is unset, shows it as an alert.
+  void pluginFailed();
+  std::function<void(const std::string& sentence)> onPluginFailure;
+
   // Called after a plug-in changed the view of a document.
   std::function<void(const OpenDocument&)> onViewChange;
   // Called when an annotator wants a part of a view painted anew: in pixels, right and bottom beyond left
@@ -84,6 +94,14 @@ class Host {
   // Called when a plug-in asks for the pointer over the drawing, whether it has that one already or not: a
   // picture by resource id in the plug-in's bundle.
   std::function<void(const PluginRecord&, std::int32_t cursorId)> onCursor;
+
+  // Ask the user for a colour or a paint, and return when the answer is there: false if it was refused, and
+  // the argument then stays as it was. Unset: all are refused. The colours that are handed in can be shown,
+  // and those of a paint belong to the current document, as `first`, which may be null, does.
+  std::function<bool(const std::string& title, AIRGBColor& color)> pickRGBColor;  // empty: no title given
+  std::function<bool(AISwatchRef first, AIColor& paint)> pickPaint;
+  // Pixels of the screen in a unit of the interface; unset: 1.
+  std::function<double()> uiScaleFactor;
 
   bool interactionAllowed = true;    // false: plug-ins are to show nothing
   bool endingWithoutSaving = false;  // an emergency exit is under way
@@ -109,6 +127,8 @@ class Host {
   std::map<SPPluginRef, ResourceTable> pictures_;
   MenuTable menus_;
   ToolTable tools_;
+  PanelTable panels_;
+  Contexts contexts_{documents_};
   Preferences preferences_;
   Folders folders_;
   std::vector<Alert> alerts_;

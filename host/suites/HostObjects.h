@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "AIDataFilter.h"
+#include "AITypes.h"
 #include "AnnotationCanvas.h"
 #include "DocumentState.h"
+#include "FlyoutMenu.h"
 #include "Handles.h"
 #include "HostString.h"
 
@@ -80,6 +82,7 @@ struct HostObjects {
   OwnedObjects<AIResourceManagerHandle, HandleKind::ResourceManager, CursorResources> cursorResources;
   OwnedObjects<AIDataFilterHandle, HandleKind::DataFilter, DataFilter> dataFilters;
   OwnedObjects<AIAnnotatorDrawer*, HandleKind::AnnotatorDrawer, AnnotationDrawer> drawers;
+  OwnedObjects<AIPanelFlyoutMenuRef, HandleKind::PanelFlyoutMenu, FlyoutMenu> flyoutMenus;
   std::weak_ptr<PathGeometry> lastPath;  // for PathEdit
 };
 

@@ -12,9 +12,9 @@ struct OwnGroup {
 };
 
 constexpr OwnGroup kOwnGroups[] = {
-    {"File", "File Open"},       {"File", "File Save"},   {"File", "File Quit"}, {"Edit", "Edit Undo"},
-    {"Edit", "Edit Select"},     {"Edit", "Preferences"}, {"View", "View Zoom"}, {"View", "View Theme"},
-    {"Window", "Tool Palettes"}, {"Window", "Documents"}, {"Help", "Help Menu"},
+    {"File", "File Open"},       {"File", "File Save"},   {"File", "File Quit"},   {"Edit", "Edit Undo"},
+    {"Edit", "Edit Select"},     {"Edit", "Preferences"}, {"View", "View Zoom"},   {"View", "View Theme"},
+    {"Window", "Tool Palettes"}, {"Window", "Panels"},    {"Window", "Documents"}, {"Help", "Help Menu"},
 };
 
 }  // namespace

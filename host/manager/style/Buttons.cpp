@@ -6,14 +6,15 @@
 #include <QWidget>
 
 #include "Measures.h"
+#include "QtManager.h"
 #include "Shapes.h"
 #include "Tones.h"
 
 namespace host::look {
 namespace {
 
-constexpr char kIsDefault[] = "_rvadm_isdefault";
-constexpr char kIsModalButton[] = "_rvadm_ismodalbutton";
+using RVADMQtManager::kIsDefaultProperty;
+using RVADMQtManager::kIsModalButtonProperty;
 constexpr double kOnShare = 0.2;
 
 QColor panelFill(const QStyleOptionButton& option, const Tones& tones, bool byDefault) {
@@ -55,13 +56,13 @@ bool isOnlyChoice(const QWidget* widget) {
 }  // namespace
 
 bool looksDefault(const QStyleOptionButton& option, const QWidget* widget) {
-  const QVariant said = widget != nullptr ? widget->property(kIsDefault) : QVariant();
+  const QVariant said = widget != nullptr ? widget->property(kIsDefaultProperty) : QVariant();
   if (said.isValid() || closesModalDialog(widget)) return said.toBool();
   return (option.features & QStyleOptionButton::DefaultButton) != 0;
 }
 
 bool closesModalDialog(const QWidget* widget) {
-  return widget != nullptr && widget->property(kIsModalButton).toBool();
+  return widget != nullptr && widget->property(kIsModalButtonProperty).toBool();
 }
 
 void pushButton(const Paint& paint) {

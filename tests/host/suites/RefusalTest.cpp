@@ -86,7 +86,7 @@ TEST_F(RefusalTest, SaysWhatIsWrongWithARule) {
   const std::pair<const char*, const char*> cases[] = {{"", "no suite \"\""},
                                                        {"AI Art Suite:NewArtt", "no entry \"NewArtt\""},
                                                        {"AI Art Suite:", "no entry \"\""},
-                                                       {"AI Panel Suite:Show", "no entry \"Show\""},
+                                                       {"AI Tag Suite:Show", "no entry \"Show\""},
                                                        {"AI Art Suite:NewArt:0", "\"0\""},
                                                        {"AI Art Suite:NewArt:", "\"\""},
                                                        {"AI Art Suite:NewArt:3rd", "\"3rd\""},

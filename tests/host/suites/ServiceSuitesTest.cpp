@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "AIFilePath.h"
+#include "AIPaintStyle.h"
 #include "AIPreference.h"
 #include "AIRealMath.h"
 #include "AITool.h"
@@ -117,6 +118,83 @@ TEST_F(ServiceSuitesTest, AlertsReachTheUser) {
   EXPECT_EQ(user.MessageAlert(text("lost")), kSPExceptionError);
   host.showAlert = [](const host::Alert&) { throw std::bad_alloc(); };
   EXPECT_EQ(user.MessageAlert(text("lost")), kOutOfMemoryErr);
+}
+
+TEST_F(ServiceSuitesTest, PickersAnswerOnlyWhatTheUserAccepted) {
+  const auto& user = acquire<AIUserSuite>(kAIUserSuite, kAIUserSuiteVersion);
+  const auto& paints = acquire<AIPaintStyleSuite>(kAIPaintStyleSuite, kAIPaintStyleSuiteVersion);
+  AIRGBColor color{1, 2, 3};
+  AIColor paint{};
+  const auto ask = [&](bool expected) {
+    AIBoolean accepted = 7;
+    EXPECT_EQ(user.GetRGBColor(text("Mark"), &color, &accepted), kNoErr);
+    EXPECT_EQ(accepted, expected ? 1 : 0);
+    EXPECT_EQ(color.red, expected ? 9 : 1);
+    accepted = 7;
+    EXPECT_EQ(paints.ShowColorPicker(nullptr, &paint, &accepted), kNoErr);
+    EXPECT_EQ(accepted, expected ? 1 : 0);
+    EXPECT_EQ(paint.kind, expected ? kNoneColor : kGrayColor);
+  };
+  ask(false);
+  bool answer = false;
+  host.pickRGBColor = [&](const std::string& title, AIRGBColor& chosen) {
+    EXPECT_EQ(title, "Mark");
+    chosen.red = 9;
+    return answer;
+  };
+  host.pickPaint = [&](AISwatchRef, AIColor& chosen) {
+    chosen.kind = kNoneColor;
+    return answer;
+  };
+  ask(false);
+  answer = true;
+  host.interactionAllowed = false;
+  ask(false);
+  host.interactionAllowed = true;
+  ask(true);
+
+  AIBoolean accepted = 0;
+  AIColor stale{};
+  stale.kind = kCustomColor;
+  const auto foreign = reinterpret_cast<AISwatchRef>(plugin);
+  EXPECT_EQ(codes(user.GetRGBColor(nullptr, &color, &accepted), user.GetRGBColor(text(), &color, nullptr),
+                  paints.ShowColorPicker(nullptr, &stale, &accepted),
+                  paints.ShowColorPicker(foreign, &paint, &accepted)),
+            std::vector<AIErr>(4, kBadParameterErr));
+  AIReal factor = 0;
+  EXPECT_EQ(user.GetUIScaleFactor(&factor), kNoErr);
+  EXPECT_EQ(factor, 1);
+  host.uiScaleFactor = [] { return 1.5; };
+  EXPECT_EQ(user.GetUIScaleFactor(&factor), kNoErr);
+  EXPECT_EQ(factor, 1.5);
+}
+
+TEST_F(ServiceSuitesTest, NumbersAreWrittenAndExpressionsEvaluated) {
+  const auto& user = acquire<AIUserSuite>(kAIUserSuite, kAIUserSuiteVersion);
+  const AIUnicodeStringHandle typed = text("2 in + 5,08 mm"), shown = text();
+  AIExpressionOptions options{3, 0, 50, 8, 1};
+  AIBoolean flag = 7;
+  AIReal result = 0;
+  EXPECT_EQ(user.EvaluateExpression(typed, &options, shown, &flag, &result), kNoErr);
+  EXPECT_EQ(std::make_pair(flag, result), std::make_pair(AIBoolean{0}, AIReal{50}));
+  EXPECT_EQ(read(shown), "50");
+  EXPECT_EQ(user.EvaluateExpression(text("1 kg"), &options, nullptr, &flag, &result), kNoErr);
+  EXPECT_EQ(std::make_pair(flag, result), std::make_pair(AIBoolean{1}, AIReal{8}));
+  EXPECT_EQ(user.RealToString(-2.675, 2, 0, shown), kNoErr);
+  EXPECT_EQ(read(shown), "-2.68");
+
+  AIExpressionOptions swapped = options, endless = options;
+  swapped.minimum = 51;
+  endless.maximum = HUGE_VAL;
+  EXPECT_EQ(codes(user.RealToString(std::nan(""), 2, 0, shown), user.RealToString(1, -1, 0, shown),
+                  user.RealToString(1, 2, 0, nullptr),
+                  user.EvaluateExpression(nullptr, &options, shown, &flag, &result),
+                  user.EvaluateExpression(typed, nullptr, shown, &flag, &result),
+                  user.EvaluateExpression(typed, &options, shown, nullptr, &result),
+                  user.EvaluateExpression(typed, &options, shown, &flag, nullptr),
+                  user.EvaluateExpression(typed, &swapped, shown, &flag, &result),
+                  user.EvaluateExpression(typed, &endless, shown, &flag, &result)),
+            std::vector<AIErr>(9, kBadParameterErr));
 }
 
 TEST_F(ServiceSuitesTest, RectanglesMayTouch) {

@@ -50,6 +50,20 @@ TEST_F(SwatchSuiteTest, CustomColoursHaveNamesOfTheirOwn) {
   EXPECT_EQ(kept.flag, kCustomSpotColor);
 }
 
+TEST_F(SwatchSuiteTest, ACustomColourIsValidInItsOwnDocumentWhileItIsThere) {
+  const AICustomColorHandle cut = customColor("Cut").c.c.color;
+  const auto isValid = [&](AICustomColorHandle color) {
+    AIBoolean valid = 7;
+    EXPECT_EQ(colors.IsValid(color, &valid), kNoErr);
+    return valid;
+  };
+  EXPECT_EQ(isValid(cut), 1);
+  EXPECT_EQ(isValid(nullptr), 0);
+  host.documents().open(makeDocument(), "other");
+  EXPECT_EQ(isValid(cut), 0);
+  EXPECT_EQ(colors.IsValid(cut, nullptr), kBadParameterErr);
+}
+
 TEST_F(SwatchSuiteTest, CustomColoursNeedADefinitionThatCanBeShown) {
   AICustomColor noNumber = magenta(), noKind = magenta();
   noNumber.c.f.black = std::nan("");

@@ -1,0 +1,78 @@
+// Views and windows as plug-ins' dialogs use them.
+#include "NativeView.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QWindow>
+
+#include "Application.h"
+#include "HostWindow.h"
+
+namespace {
+
+using NativeViews = WidgetTest;
+
+TEST_F(NativeViews, ButtonsLeaveAShownWindowAsItStands) {
+  QDialog dialog;
+  dialog.setWindowModality(Qt::ApplicationModal);
+  EXPECT_EQ(NativeWindowOf(&dialog), nullptr) << "the system does not know it yet";
+  dialog.setGeometry(60, 70, 320, 240);
+  dialog.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  const QRect before = dialog.geometry();
+  NativeWindow* window = NativeWindowOf(&dialog);
+  SetStyleMask(window, 0);
+  EXPECT_EQ(StyleMask(window), 0U);
+  SetStyleMask(window, kResizableWindow);
+  EXPECT_EQ(StyleMask(window), kResizableWindow);
+  for (int button = -1; button <= kStandardWindowButtons; ++button) HideStandardWindowButton(window, button);
+  const Qt::WindowFlags buttons =
+      Qt::WindowCloseButtonHint | Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint;
+  for (const Qt::WindowFlags flags : {dialog.windowFlags(), dialog.windowHandle()->flags()}) {
+    EXPECT_EQ(flags & buttons, Qt::WindowFlags());
+    EXPECT_TRUE(flags.testFlag(Qt::CustomizeWindowHint));
+  }
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_EQ(dialog.geometry(), before);
+  EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+}
+
+TEST_F(NativeViews, KeyboardGoesToTheViewsOfTheWindowThatTakeIt) {
+  QWidget window;
+  QLineEdit field(&window);
+  QWidget plain(&window);
+  QWidget stranger;
+  host::setHostWindow(&window);
+  window.show();
+  MakeKeyWindow(MainWindow());
+  const std::pair<QWidget*, bool> rows[] = {
+      {&field, true}, {&plain, false}, {&stranger, false}, {nullptr, false}};
+  for (const auto& [widget, takes] : rows) {
+    EXPECT_EQ(MakeFirstResponder(MainWindow(), NativeViewOf(widget)), takes);
+    EXPECT_EQ(window.focusWidget(), &field);
+  }
+  window.setFocusProxy(&plain);
+  plain.setFocusPolicy(Qt::StrongFocus);
+  EXPECT_TRUE(MakeFirstResponder(MainWindow(), NativeViewOf(&window)));
+  EXPECT_EQ(window.focusWidget(), &plain);
+  host::setHostWindow(nullptr);
+}
+
+TEST_F(NativeViews, SubviewsComeAndGoVisibleAndInPlace) {
+  QWidget host;
+  host.show();
+  QWidget child;
+  child.show();
+  AddSubview(NativeViewOf(&host), NativeViewOf(&child));
+  EXPECT_TRUE(child.isVisible());
+  EXPECT_EQ(Superview(NativeViewOf(&child)), NativeViewOf(&host));
+  EXPECT_EQ(Superview(NativeViewOf(&host)), nullptr);
+  SetFrame(NativeViewOf(&child), 3, 4, 50, 60);
+  EXPECT_EQ(child.geometry(), QRect(3, 4, 50, 60));
+  RemoveFromSuperview(NativeViewOf(&child));
+  EXPECT_EQ(child.parentWidget(), nullptr);
+}
+
+}  // namespace
