@@ -20,7 +20,7 @@
 #include "HMX_AIPlugin.h"
 #include "HMX_AISuiteManager.h"
 #include "Host.h"
-#include "IconPlugin.h"
+#include "ToolkitPlugin.h"
 #include "Icons.h"
 #include "LoadPixmap.h"
 #include "SPBasic.h"
@@ -201,6 +201,6 @@ int main(int count, char** arguments) {
   host::Host host;
   const host::PluginRecord& record = host.addPlugin("bench", bundle.path());
   const IconBenchPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-  qRVADM::SetIconPlugin(record.handle);
+  qRVADM::SetToolkitPlugin(record.handle);
   return judge(bundle, host) == 0 ? 0 : 1;
 }

@@ -29,7 +29,7 @@ constexpr const char* kFrameSuites[] = {
     "SP Blocks Suite",   "AI Command Manager Suite", "SP Plug-ins Suite",
 };
 
-// Keeps the host from taking commands while dialogs are going.
+// Keeps the count of dialogs from coming to rest before the last palette is gone.
 class CountedDialog {
  public:
   CountedDialog() { RVADMQtManager::QtManager::IncreaseDialogCount(); }

@@ -5,6 +5,7 @@
 #include "AIArt.h"
 #include "AIArtboard.h"
 #include "AIColorConversion.h"
+#include "AIContext.h"
 #include "AICustomColor.h"
 #include "AIDataFilter.h"
 #include "AIDocument.h"
@@ -15,6 +16,9 @@
 #include "AILayer.h"
 #include "AIMenu.h"
 #include "AINotifier.h"
+#include "AIPaintStyle.h"
+#include "AIPanel.h"
+#include "AIPanelFlyoutMenu.h"
 #include "AIPath.h"
 #include "AIPathStyle.h"
 #include "AIPreference.h"
@@ -36,6 +40,7 @@ const AIAnnotatorDrawerSuite* sAIAnnotatorDrawer = nullptr;
 const AIArtboardSuite* sAIArtboard = nullptr;
 const AIArtSuite* sAIArt = nullptr;
 const AIColorConversionSuite* sAIColorConversion = nullptr;
+const AIContextSuite* sAIContext = nullptr;
 const AICustomColorSuite* sAICustomColor = nullptr;
 const AIDataFilterSuite* sAIDataFilter = nullptr;
 const AIDocumentSuite* sAIDocument = nullptr;
@@ -44,6 +49,9 @@ const AIFoldersSuite* sAIFolders = nullptr;
 const AIHitTestSuite* sAIHitTest = nullptr;
 const AILayerSuite* sAILayer = nullptr;
 const AIMenuSuite* sAIMenu = nullptr;
+const AIPaintStyleSuite* sAIPaintStyle = nullptr;
+const AIPanelSuite* sAIPanel = nullptr;
+const AIPanelFlyoutMenuSuite* sAIPanelFlyoutMenu = nullptr;
 const AIPathSuite* sAIPath = nullptr;
 const AIPathStyleSuite* sAIPathStyle = nullptr;
 const AIPreferenceSuite* sAIPreference = nullptr;

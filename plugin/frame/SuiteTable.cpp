@@ -8,6 +8,7 @@
 #include "AIArt.h"
 #include "AIArtboard.h"
 #include "AIColorConversion.h"
+#include "AIContext.h"
 #include "AICustomColor.h"
 #include "AIDataFilter.h"
 #include "AIDocument.h"
@@ -18,6 +19,9 @@
 #include "AILayer.h"
 #include "AIMenu.h"
 #include "AINotifier.h"
+#include "AIPaintStyle.h"
+#include "AIPanel.h"
+#include "AIPanelFlyoutMenu.h"
 #include "AIPath.h"
 #include "AIPathStyle.h"
 #include "AIPreference.h"
@@ -76,7 +80,7 @@ constexpr SuiteTable kInitialTable = {{
     Uncalled<15>("AI Cursor Snap Suite", 1016),
     Called<&sAIColorConversion>(kAIColorConversionSuite, kAIColorConversionSuiteVersion),
     Uncalled<17>("AI Command Manager Suite", 1005),
-    Uncalled<18>("AI Context Suite", 1010),
+    Called<&sAIContext>(kAIContextSuite, kAIContextSuiteVersion),
     Called<&sAICustomColor>(kAICustomColorSuite, kAICustomColorSuiteVersion),
     Called<&sAIDataFilter>(kAIDataFilterSuite, kAIDataFilterSuiteVersion),
     Called<&sAIDocument>(kAIDocumentSuite, kAIDocumentSuiteVersion),
@@ -109,9 +113,9 @@ constexpr SuiteTable kInitialTable = {{
     Uncalled<48>("AI Modal Parent Suite", 1002),
     Uncalled<49>("AI Name Space Suite", 1004),
     Uncalled<50>("Override AI Color Conversion Suite", 1008),
-    Uncalled<51>("AI Paint Style Suite", 1010),
-    Uncalled<52>("AI Panel Suite", 1004),
-    Uncalled<53>("AI Panel Flyout Menu Suite", 1002),
+    Called<&sAIPaintStyle>(kAIPaintStyleSuite, kAIPaintStyleSuiteVersion),
+    Called<&sAIPanel>(kAIPanelSuite, kAIPanelSuiteVersion),
+    Called<&sAIPanelFlyoutMenu>(kAIPanelFlyoutMenuSuite, kAIPanelFlyoutMenuSuiteVersion),
     Called<&sAIPath>(kAIPathSuite, kAIPathSuiteVersion),
     Called<&sAIPathStyle>(kAIPathStyleSuite, kAIPathStyleSuiteVersion),
     Uncalled<56>("AI Pathfinder Suite", 1006),

@@ -6,8 +6,8 @@ namespace Vandrell::Corvane {
 namespace {
 
 void ShowLab(const AILabColorStyle& lab, AIColor& shown) {
-  RGBSample rgb{};
-  if (SampleToRGB(lab, rgb) != kNoErr) return;
+  qRVADM::RGBSample rgb{};
+  if (qRVADM::SampleToRGB(lab, rgb) != kNoErr) return;
   shown.kind = kThreeColor;
   shown.c.rgb = {AIReal{rgb[0]}, AIReal{rgb[1]}, AIReal{rgb[2]}};
 }

@@ -7,13 +7,13 @@
 
 #include "BrightnessMode.h"
 #include "DecodePNG.h"
-#include "IconPlugin.h"
 #include "LoadResource.h"
 #include "MallocBytes.h"
 #include "PixmapCache.h"
 #include "QtManager.h"
 #include "RenderSVG.h"
 #include "ResourceID.h"
+#include "ToolkitPlugin.h"
 
 namespace qRVADM {
 namespace {
@@ -43,7 +43,7 @@ PixmapCache<std::pair<int, double>>& SVGCache() {
 
 PictureBytes Load(int id) {
   char* data = nullptr;
-  const int size = LoadResource(IconPlugin(), id, &data);
+  const int size = LoadResource(ToolkitPlugin(), id, &data);
   return {MallocBytes(data), size};
 }
 

@@ -23,12 +23,16 @@ std::string Quoted(const std::string& key) {
 // The files of one language.
 class LanguageCheck {
  public:
-  LanguageCheck(const fs::path& from, const AskedKeys& askedKeys, std::string ofLanguage,
-                std::vector<std::string>& found)
-      : folder(from), asked(askedKeys), language(std::move(ofLanguage)), findings(found) {}
+  LanguageCheck(const fs::path& from, const AskedKeys& askedKeys, const std::vector<std::string>& ofModules,
+                std::string ofLanguage, std::vector<std::string>& found)
+      : folder(from),
+        asked(askedKeys),
+        modules(ofModules),
+        language(std::move(ofLanguage)),
+        findings(found) {}
 
   void Run() {
-    for (const char* const module : kModules) CheckFile(ReadTextFile(folder, FileName(language, module)));
+    for (const std::string& module : modules) CheckFile(ReadTextFile(folder, FileName(language, module)));
     for (const auto& [key, asker] : asked) {
       if (places.count(key) == 0) CheckMissing(key, asker);
     }
@@ -65,15 +69,16 @@ class LanguageCheck {
     }
   }
 
-  // Dates belong to the base module, all else to the product's.
+  // Dates belong to the base module, all else to the last one.
   void CheckMissing(const std::string& key, const AskedKey& asker) {
-    const char* const module = asker.english.empty() ? kModules[0] : kModules[1];
+    const std::string& module = asker.english.empty() ? modules.front() : modules.back();
     findings.push_back(FileName(language, module) + ": the text of " + Quoted(key) + " is missing; " +
                        asker.place + " asks for it");
   }
 
   const fs::path& folder;
   const AskedKeys& asked;
+  const std::vector<std::string>& modules;
   const std::string language;
   std::vector<std::string>& findings;
   std::map<std::string, std::string> places;      // by key
@@ -91,11 +96,14 @@ std::vector<std::string> Localisations(const fs::path& folder) {
   return names;
 }
 
-std::vector<std::string> CheckTexts(const fs::path& folder, const AskedKeys& asked) {
+std::vector<std::string> CheckTexts(const fs::path& folder, const AskedKeys& asked,
+                                    const std::vector<std::string>& modules) {
   std::vector<std::string> findings;
   std::vector<std::string> languages = Localisations(folder);
   languages.insert(languages.begin(), kEnglish);
-  for (const std::string& language : languages) LanguageCheck(folder, asked, language, findings).Run();
+  for (const std::string& language : languages) {
+    LanguageCheck(folder, asked, modules, language, findings).Run();
+  }
   return findings;
 }
 

@@ -23,7 +23,8 @@ struct Askers {
   std::vector<const char*> functions;
 };
 const Askers kAskers[] = {
-    {AskedKey::Kind::Text, {"Localize:1", "LocalizeItemText:2", "FormatLocalized:1", "TextKey:1"}},
+    {AskedKey::Kind::Text,
+     {"Localize:1", "LocalizeItemText:2", "FormatLocalized:1", "TextKey:1", "ShowCriticalMessage:1"}},
     {AskedKey::Kind::Alert, {"ErrorAlert:1", "MessageAlert:1"}}};
 
 std::vector<std::string> Sources(const fs::path& root, const std::string& folder) {

@@ -20,7 +20,8 @@ struct SharedText {
   std::string_view language;  // empty: all of them
   std::string_view text;
 };
-constexpr SharedText kSharedTexts[] = {{"", "Vandrell"}, {"", "corvane"}};
+constexpr SharedText kSharedTexts[] = {
+    {"", "Vandrell"}, {"", "corvane"}, {"", "OK"}, {"de", "Name:"}, {"de", "Normal"}};
 
 bool IsShared(std::string_view language, std::string_view text) {
   return std::any_of(std::begin(kSharedTexts), std::end(kSharedTexts), [=](const SharedText& shared) {

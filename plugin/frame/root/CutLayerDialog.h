@@ -7,9 +7,6 @@ namespace Vandrell::Corvane {
 
 class CutLayerDialog : public qRVADM::RVADM_NonModalDialog {
  public:
-  virtual void Show(bool show) = 0;
-  virtual bool IsShown() const = 0;
-  virtual void SetEnabled(bool enabled) = 0;
   virtual void SyncWithSelection() = 0;  // rows and buttons as the selected art asks for
 };
 

@@ -3,7 +3,7 @@
 #include "CutOption.h"
 #include "DocumentChangedNotifier.h"
 #include "HMX_AISuiteManager.h"
-#include "IconPlugin.h"
+#include "ToolkitPlugin.h"
 #include "QtManager.h"
 #include "RestoreMarkTool.h"
 #include "SelectedLineTypesUpdateNotifier.h"
@@ -30,7 +30,7 @@ AIErr CutPlugin::Start(const SPMessageData& message) {
   // Never released: every suite stays held between messages.
   if (const AIErr error = suiteManager->Acquire(); error != kNoErr) return error;
   RVADMQtManager::QtManager::SetSPBasicSuite(message.basic);
-  qRVADM::SetIconPlugin(pluginRef);
+  qRVADM::SetToolkitPlugin(pluginRef);
   if (const AIErr error = LocateResources(pluginRef, resourcePath); error != kNoErr) return error;
   RegisterTextModule("corvane");
   sCutPluginInstance = this;

@@ -3,13 +3,13 @@
 #include "AIDocumentView.h"
 #include "AIPreference.h"
 #include "AddRegmark.h"
-#include "Alerts.h"
 #include "CurrentDocument.h"
 #include "CutOption.h"
 #include "CutPlugin.h"
 #include "PlaceChosenMarks.h"
 #include "RegmarkColors.h"
 #include "RegmarkStyle.h"
+#include "ShowCriticalMessage.h"
 #include "TableHeadAnnotator.h"
 
 namespace Vandrell::Corvane {
@@ -76,7 +76,7 @@ AIErr CutTool::MouseDown(const AIToolMessage& message) {
                                       static_cast<std::int32_t>(shape));
   const AIErr error = AddRegmark(MakeRegmarkStyle(MarkOption()), point);
   if (error != kNoErr) {
-    ErrorAlert("Could not add regmarks because the regmark layer is locked or hidden.");
+    qRVADM::ShowCriticalMessage("Could not add regmarks because the regmark layer is locked or hidden.");
   }
   return error;
 }

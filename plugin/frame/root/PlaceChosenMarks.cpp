@@ -1,10 +1,10 @@
 #include "PlaceChosenMarks.h"
 
 #include "AIPreference.h"
-#include "Alerts.h"
 #include "CutOption.h"
 #include "CutTool.h"
 #include "PlaceRegmarks.h"
+#include "ShowCriticalMessage.h"
 
 namespace Vandrell::Corvane {
 namespace {
@@ -24,7 +24,8 @@ AIErr PlaceChosenMarks(const CutOption& option, const CutTool* tool) {
   const AIErr error = PlaceRegmarks(option, failures);
   StoreInteger(kLastNotPlacedPreference, failures);
   if (failures >= 1) {
-    ErrorAlert("Not all regmarks are placed because not enough space in the current artboard.");
+    qRVADM::ShowCriticalMessage(
+        "Not all regmarks are placed because not enough space in the current artboard.");
   }
   return error;
 }

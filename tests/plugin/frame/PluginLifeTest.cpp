@@ -1,6 +1,8 @@
 // From the startup message to the end of the application.
 #include <gmock/gmock.h>
 
+#include <QApplication>
+
 #include "AINotifier.h"
 #include "Annotator.h"
 #include "FramePlugin.h"
@@ -59,13 +61,17 @@ struct RecordingDialog : qRVADM::RVADM_NonModalDialog {
 };
 
 TEST_F(PluginLife, DialogsStoreAndGoAtTheEndOfTheApplication) {
+  int argumentCount = 1;
+  char programName[] = "test";
+  char* arguments[] = {programName, nullptr};
+  const QApplication application(argumentCount, arguments);
   for (const char* name : {"A", "B"}) plugin->AddDialog(new RecordingDialog(name, events));
   EXPECT_EQ(Fire(2), kNoErr);
-  EXPECT_THAT(events, ElementsAre("A commits 0, dialogs counted: 0", "B commits 0, dialogs counted: 0"));
+  EXPECT_THAT(events, ElementsAre("A commits 0, dialogs counted: 2", "B commits 0, dialogs counted: 2"));
   events.clear();
   EXPECT_EQ(Fire(1), kNoErr);
-  EXPECT_THAT(events, ElementsAre("A commits 0, dialogs counted: 1", "A destroyed",
-                                  "B commits 0, dialogs counted: 1", "B destroyed"));
+  EXPECT_THAT(events, ElementsAre("A commits 0, dialogs counted: 3", "A destroyed",
+                                  "B commits 0, dialogs counted: 2", "B destroyed"));
   EXPECT_EQ(RVADMQtManager::QtManager::DialogCount(), 0);
   events.clear();
   plugin->AddDialog(new RecordingDialog("C", events));

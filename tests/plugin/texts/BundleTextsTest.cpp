@@ -33,6 +33,14 @@ TEST(BundleTexts, AreSoundInEveryLanguage) {
   EXPECT_THAT(CheckTexts(kShipped, asked), testing::IsEmpty());
 }
 
+TEST(GalleryTexts, AreSoundInEveryLanguage) {
+  const fs::path texts = kSource / "samples" / "gallery" / "bundle";
+  EXPECT_THAT(Localisations(texts), testing::ElementsAre("de", "ja"));
+  AskedKeys asked;
+  AskForSourceTexts(asked, kSource, "samples/gallery");
+  EXPECT_THAT(CheckTexts(texts, asked, {"rv"}), testing::IsEmpty());
+}
+
 TEST(BundleTexts, LieInTheBuiltBundleAsTheyAre) {
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(kShipped)) {
     if (!entry.is_regular_file()) continue;

@@ -123,7 +123,7 @@ TEST_F(LoadPixmapTest, NothingComesOfBadRatiosOrWithoutAPlugin) {
     EXPECT_TRUE(LoadPixmap(25550, 2, ratio).isNull()) << ratio;
   }
   EXPECT_TRUE(LoadPixmap(25550, 2, 1e9).isNull());
-  qRVADM::SetIconPlugin(nullptr);
+  qRVADM::SetToolkitPlugin(nullptr);
   EXPECT_TRUE(LoadPixmap(25550, 2, 1).isNull());
 }
 

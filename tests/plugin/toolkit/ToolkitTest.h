@@ -9,7 +9,7 @@
 #include "HMX_AIPlugin.h"
 #include "HMX_AISuiteManager.h"
 #include "Host.h"
-#include "IconPlugin.h"
+#include "ToolkitPlugin.h"
 #include "SPBasic.h"
 #include "ScratchFolder.h"
 #include "Theme.h"
@@ -51,9 +51,9 @@ class ToolkitTest : public testing::Test {
  protected:
   ToolkitTest() {
     host::setTheme(host::Theme::Light);
-    qRVADM::SetIconPlugin(record.handle);
+    qRVADM::SetToolkitPlugin(record.handle);
   }
-  ~ToolkitTest() override { qRVADM::SetIconPlugin(nullptr); }
+  ~ToolkitTest() override { qRVADM::SetToolkitPlugin(nullptr); }
 
   static inline const TestBundle bundle;
   int argumentCount = 1;

@@ -1,0 +1,144 @@
+// Drawing by whole pixels, on screens of one and of two pixels a point.
+#include <QItemDelegate>
+#include <QPainter>
+#include <QPointer>
+
+#include "DialogWorld.h"
+#include "IADMDrawer.h"
+#include "ItemDelegateDefaultPainter.h"
+#include "Pixels.h"
+#include "RVADM_CustomItem.h"
+
+namespace qRVADM {
+namespace {
+
+constexpr std::uint32_t kBlue = 0x0000ffff;
+constexpr std::uint32_t kWhite = 0xffffffff;
+
+// Paints its ordinary look in green.
+class Picture : public RVADM_CustomItem {
+ public:
+  explicit Picture(TestDialog& dialog) : RVADM_CustomItem(&dialog) { SetSize(40, 20); }
+  void Draw(IADMDrawer& drawer) override { draw(drawer); }
+  void DefaultPaint(QPaintEvent* event) override {
+    QPainter painter(this);
+    EXPECT_TRUE(painter.isActive());
+    painter.fillRect(0, 0, 20, 20, Qt::green);
+    RVADM_CustomItem::DefaultPaint(event);
+  }
+  void paintEvent(QPaintEvent* event) override {
+    try {
+      RVADM_CustomItem::paintEvent(event);
+    } catch (const std::runtime_error&) {
+      EXPECT_TRUE(QPainter(this).isActive()) << "another painter is still at work";
+      ++thrown;
+    }
+  }
+
+  std::function<void(IADMDrawer&)> draw;
+  int thrown = 0;
+};
+
+class DrawerTest : public DialogTest {
+ protected:
+  TestDialog dialog;
+  Picture& item = *new Picture(dialog);
+};
+
+TEST_F(DrawerTest, DrawsCrisply) {
+  item.draw = [](IADMDrawer& drawer) {
+    ADMRect bounds{};
+    drawer.GetBoundsRect(&bounds);
+    drawer.SetColor(kWhite);
+    drawer.FillRect(bounds);
+    drawer.SetRGBColor({0xff00, 0x12ff, 0});
+    drawer.DrawRect({2, 2, 10, 8});
+    drawer.FillRect({20, 2, 24, 6});
+    drawer.SetColor(kBlue);
+    drawer.DrawLine({4, 5}, {7, 5});
+    drawer.SetColor(254);
+    drawer.DrawLine({30, 3}, {30, 6});
+    IADMDrawer copy(drawer);  // with a colour of its own
+    EXPECT_EQ(bounds.right - bounds.left, 40);
+  };
+  const char* const expected[] = {
+      "........................................", "........................................",
+      "..rrrrrrrr..........rrrr................", "..r......r..........rrrr......b.........",
+      "..r......r..........rrrr......b.........", "..r.bbbb.r..........rrrr......b.........",
+      "..r......r....................b.........", "..rrrrrrrr..............................",
+      "........................................"};
+  const Legend legend{{'.', Qt::white}, {'r', QColor(255, 0x12, 0)}, {'b', Qt::blue}};
+  for (const int ratio : {1, 2}) {
+    int y = 0;
+    for (const char* row : expected) EXPECT_EQ(RowOf(Grab(item, ratio), y++, legend), row) << ratio;
+  }
+}
+
+TEST_F(DrawerTest, GoesOnAfterTheOrdinaryLook) {
+  item.draw = [](IADMDrawer& drawer) {
+    drawer.SetColor(kWhite);
+    drawer.FillRect({0, 0, 40, 20});
+    drawer.DrawDefault();
+    EXPECT_TRUE(drawer.GetPainter()->testRenderHint(QPainter::Antialiasing));
+    drawer.GetPainter()->setRenderHint(QPainter::Antialiasing, false);
+    drawer.DrawDefault();
+    EXPECT_FALSE(drawer.GetPainter()->testRenderHint(QPainter::Antialiasing));
+    drawer.SetColor(kBlue);
+    drawer.FillRect({18, 0, 22, 1});
+  };
+  EXPECT_EQ(RowOf(Grab(item, 1), 0, {{'.', Qt::white}, {'g', Qt::green}, {'b', Qt::blue}}),
+            "ggggggggggggggggggbbbb..................");
+}
+
+TEST_F(DrawerTest, LeavesNoPainterBehindWhenDrawingThrows) {
+  item.draw = [](IADMDrawer& drawer) {
+    drawer.DrawDefault();
+    const IADMDrawer copy(drawer);
+    throw std::runtime_error("drawing failed");
+  };
+  Grab(item, 1);
+  EXPECT_EQ(item.thrown, 1);
+  EXPECT_EQ(host.contexts().depth(), 0U);
+}
+
+TEST_F(DrawerTest, TextStaysInItsBox) {
+  const auto drawn = [this](const char* text) {
+    item.draw = [text](IADMDrawer& drawer) { drawer.DrawTextInBox(text, {4, 0, 30, 20}); };
+    return Grab(item, 1);
+  };
+  const QImage blank = drawn("");
+  const QImage elided = drawn("WWWWWWWWWWWWWWWW");
+  EXPECT_FALSE(elided == blank);
+  EXPECT_TRUE(elided.copy(30, 0, 10, 20) == blank.copy(30, 0, 10, 20));
+}
+
+// Whose rows are drawn by their entries.
+class RowDelegate : public QItemDelegate {
+ public:
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    ItemDelegateDefaultPainter<QItemDelegate> ordinary(*this, option, index);
+    IADMDrawer drawer(nullptr, painter, &ordinary, {0, 0, 40, 20});
+    const IADMDrawer copy(drawer);
+    drawer.DrawDefault();
+    EXPECT_EQ(IADMDrawer(copy).GetPainter(), painter);
+  }
+  void drawDisplay(QPainter* painter, const QStyleOptionViewItem&, const QRect&,
+                   const QString&) const override {
+    EXPECT_FALSE(painter->testRenderHint(QPainter::Antialiasing));
+    ++painted;
+  }
+  mutable int painted = 0;
+};
+
+TEST_F(DrawerTest, RowsHaveTheirOrdinaryLookToo) {
+  QImage image(40, 20, QImage::Format_ARGB32);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const RowDelegate delegate;
+  delegate.paint(&painter, {}, {});
+  EXPECT_EQ(delegate.painted, 1);
+  EXPECT_TRUE(painter.testRenderHint(QPainter::Antialiasing));
+}
+
+}  // namespace
+}  // namespace qRVADM

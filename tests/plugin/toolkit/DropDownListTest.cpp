@@ -1,0 +1,169 @@
+// Drop-down lists, with a user at mouse and keyboard.
+#include <QAbstractItemView>
+#include <QScreen>
+#include <QScrollBar>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include "DialogWorld.h"
+#include "Pictures.h"
+#include "RVADM_DropDownList.h"
+
+namespace qRVADM {
+namespace {
+
+struct TestList : RVADM_DropDownList {
+  using RVADM_DropDownList::RVADM_DropDownList;
+  QStyle::State State() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    return option.state;
+  }
+};
+
+class DropDownListTest : public DialogTest {
+ protected:
+  DropDownListTest() {
+    QApplication::setDoubleClickInterval(10);
+    for (const char* text : {"Round", "Cross", "round"}) new RVADM_ComboEntry(list, text, false);
+    list->SetBounds({10, 10, 130, 34});
+    dialog.Open();
+  }
+  ~DropDownListTest() override { QApplication::setDoubleClickInterval(usualInterval); }
+  QWidget& Popup() const { return *list->view()->parentWidget(); }
+  void ClickRow(int row) const {
+    QTest::mouseClick(list->view()->viewport(), Qt::LeftButton, {},
+                      list->view()->visualRect(list->model()->index(row, 0)).center());
+  }
+
+  const int usualInterval = QApplication::doubleClickInterval();
+  TestDialog dialog;
+  TestList* list = new TestList(&dialog);
+};
+
+TEST_F(DropDownListTest, OnlyTheUserNotifies) {
+  RVADM_ComboEntry* cross = list->FindEntry("Cross");
+  cross->Select(true);
+  EXPECT_EQ(list->GetActiveEntry(), cross);
+  cross->Select(false);
+  EXPECT_EQ(list->GetActiveEntry(), nullptr);
+  cross->SetText("Kreuz", false);
+  delete list->GetEntry(0);
+  EXPECT_TRUE(dialog.notified.empty());
+  RVADM_ComboEntry* entries[] = {cross, list->FindEntry("round")};
+  for (int row = 0; row < 2; ++row) {
+    Click(dialog, *list);
+    ASSERT_TRUE(Popup().isVisible());
+    EXPECT_TRUE(list->State() & QStyle::State_On);
+    EXPECT_FALSE(list->State() & (QStyle::State_HasFocus | QStyle::State_MouseOver));
+    QTest::qWait(50);  // a release that may belong to the opening click does not count
+    ClickRow(row);
+    EXPECT_FALSE(Popup().isVisible());
+    EXPECT_FALSE(list->State() & QStyle::State_On);
+    EXPECT_EQ(list->GetActiveEntry(), entries[row]);
+    EXPECT_EQ(dialog.TimesNotified(list), row + 1);
+    EXPECT_TRUE(list->HasFocus());
+  }
+  QTest::keyClick(list, Qt::Key_Up);
+  EXPECT_EQ(list->GetActiveEntry(), cross);
+  EXPECT_EQ(dialog.TimesNotified(list), 3);
+}
+
+TEST_F(DropDownListTest, WheelGoesToWhatLiesBehind) {
+  QWheelEvent wheel({5, 5}, list->mapToGlobal({5, 5}), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                    false);
+  list->FindEntry("Round")->Select(true);
+  EXPECT_FALSE(QApplication::sendEvent(list, &wheel) && wheel.isAccepted());
+  EXPECT_EQ(list->currentIndex(), 0);
+}
+
+TEST_F(DropDownListTest, EntriesFindTheirRows) {
+  RVADM_ComboEntry* cross = list->FindEntry("Cross");
+  EXPECT_EQ(list->FindEntry("round"), list->GetEntry(2)) << "exactly";
+  EXPECT_EQ(list->FindEntry("Rou"), nullptr);
+  EXPECT_EQ(list->GetEntry(3), nullptr);
+  list->addItem("foreign");
+  EXPECT_EQ(list->GetEntry(3), nullptr);
+  delete list->GetEntry(0);
+  cross->SetText("a\xC3\xA4", true);
+  EXPECT_EQ(list->itemText(0), QString::fromUtf8("a\xC3\xA4"));
+  char text[8];
+  for (const auto& [size, expected] : {std::pair{8, "a\xC3\xA4"}, {3, "a"}, {1, ""}}) {
+    for (const bool current : {true, false}) {
+      cross->GetText(text, size, current);
+      EXPECT_STREQ(text, expected) << size << current;
+    }
+  }
+  list->Clear();
+  EXPECT_EQ(list->count(), 1) << "what is no entry stays";
+  list->Clear();
+  // An entry whose row Qt took has nothing to act on.
+  auto* gone = new RVADM_ComboEntry(list, "gone", false);
+  list->removeItem(1);
+  gone->SetText("x", false);
+  gone->SetPicture(-1);
+  gone->Select(true);
+  gone->GetText(text, sizeof text, true);
+  EXPECT_STREQ(text, "");
+  delete gone;
+  EXPECT_EQ(list->itemText(0), "foreign");
+}
+
+TEST_F(DropDownListTest, PicturesFollowTheTheme) {
+  bundle.Write("png/p17310.png", PNGPicture(16, 16, Qt::red));
+  bundle.Write("png/p18310.png", PNGPicture(16, 16, Qt::blue));
+  list->GetEntry(0)->SetPicture(16310);
+  list->GetEntry(1)->SetPicture(-1);
+  const auto colorOf = [this](int row) { return list->itemIcon(row).pixmap(16).toImage().pixelColor(8, 8); };
+  EXPECT_EQ(colorOf(0), QColor(Qt::red));
+  EXPECT_EQ(colorOf(1).alpha(), 0);
+  EXPECT_TRUE(list->itemIcon(2).isNull());
+  host::setTheme(host::Theme::Dark);
+  QEvent changed(static_cast<QEvent::Type>(RVADMQtManager::kThemeChangedEvent));
+  QApplication::sendEvent(list, &changed);
+  EXPECT_EQ(colorOf(0), QColor(Qt::blue));
+  list->GetEntry(0)->SetPicture(0);
+  EXPECT_TRUE(list->itemIcon(0).isNull());
+}
+
+TEST_F(DropDownListTest, BestSizeHoldsTheWidestRowAndChangesNothing) {
+  QSize narrow, wide;
+  list->GetBestSize(&narrow);
+  list->GetEntry(1)->SetText(std::string(60, 'W').c_str(), false);
+  list->GetBestSize(&wide);
+  EXPECT_GE(wide.width(), list->fontMetrics().horizontalAdvance(QString(60, 'W')));
+  EXPECT_LT(narrow.width(), wide.width());
+  EXPECT_EQ(list->QWidget::size(), QSize(120, 24));
+  EXPECT_EQ(list->sizeAdjustPolicy(), QComboBox::AdjustToContentsOnFirstShow);
+}
+
+TEST_F(DropDownListTest, PopupWidensForItsRowsOnTheScreen) {
+  const auto widthOfPopup = [this](std::size_t letters, int rows) {
+    list->Clear();
+    for (int row = 0; row < rows; ++row) new RVADM_ComboEntry(list, std::string(letters, 'm').c_str(), false);
+    list->showPopup();
+    EXPECT_LE(Popup().geometry().right(), list->screen()->geometry().right());
+    const int width = Popup().width();
+    list->hidePopup();
+    return width;
+  };
+  const int narrow = widthOfPopup(1, 2), wide = widthOfPopup(40, 32);
+  EXPECT_EQ(widthOfPopup(2, 2), narrow) << "as Qt has it";
+  EXPECT_GE(wide, list->view()->sizeHintForColumn(0));
+  EXPECT_GT(wide, list->width());
+  EXPECT_EQ(widthOfPopup(40, 33), wide + list->view()->verticalScrollBar()->sizeHint().width());
+  EXPECT_EQ(widthOfPopup(500, 2), list->screen()->geometry().width());
+}
+
+TEST_F(DropDownListTest, TipsFollowTheHighlightedRow) {
+  list->setItemData(1, "the second", Qt::ToolTipRole);
+  for (const bool showing : {false, true}) {
+    if (showing) QToolTip::showText(QPoint(10, 10), "any", list);
+    list->highlighted(1);
+    EXPECT_EQ(QToolTip::text(), showing ? "the second" : "");
+  }
+  QToolTip::hideText();
+}
+
+}  // namespace
+}  // namespace qRVADM

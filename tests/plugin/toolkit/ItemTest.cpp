@@ -1,0 +1,157 @@
+// What every item offers, on a label and a text field.
+#include <array>
+#include <stdexcept>
+#include <string>
+
+#include "DialogWorld.h"
+#include "RVADM_CustomItem.h"
+#include "RVADM_Label.h"
+#include "RVADM_TextEdit.h"
+#include "RVADM_TextPushButton.h"
+
+namespace qRVADM {
+namespace {
+
+using ItemTest = DialogTest;
+
+std::string TextOf(RVADM_Item& item, int size, bool current) {
+  std::array<char, 32> buffer{};
+  item.GetText(buffer.data(), size, current);
+  return buffer.data();
+}
+
+std::u16string WideTextOf(RVADM_Item& item, int size, bool current) {
+  std::array<std::uint16_t, 32> buffer{};
+  item.GetTextW(buffer.data(), size, current);
+  return QString::fromUtf16(buffer.data()).toStdU16String();
+}
+
+TEST_F(ItemTest, KeepTheTextTheyWereGivenAndTellWhatTheyShow) {
+  TestDialog dialog;
+  auto* label = new RVADM_Label(&dialog, "Maße", false);
+  label->setText("shown");
+  EXPECT_EQ(TextOf(*label, 32, false), "Maße");
+  EXPECT_EQ(TextOf(*label, 32, true), "shown");
+  EXPECT_EQ(TextOf(*label, 4, false), "Ma") << "half a letter is none";
+  label->setText("a\U0001F600");
+  EXPECT_EQ(TextOf(*label, 5, true), "a");
+  EXPECT_EQ(WideTextOf(*label, 3, true), u"a");
+  EXPECT_EQ(WideTextOf(*label, 4, true), u"a\U0001F600");
+  EXPECT_EQ(WideTextOf(*label, 32, false), u"");
+  const std::uint16_t wide[] = {'W', 0xC4, 0};
+  label->SetTextW(wide, false);
+  EXPECT_EQ(TextOf(*label, 32, true), "WÄ");
+  EXPECT_EQ(TextOf(*label, 32, false), "Maße");
+
+  auto* field = new RVADM_TextEdit(&dialog, "given", false, false);
+  field->setText("typed");
+  EXPECT_EQ(TextOf(*field, 32, false), "typed");
+}
+
+TEST_F(ItemTest, GrowAndShrinkToTheirText) {
+  TestDialog dialog;
+  auto* label = new RVADM_Label(&dialog, "A long text", false);
+  label->MoveTo(30, 40, false);
+  const int longWidth = label->GetWidth();
+  label->SetText("i", false, true);
+  EXPECT_LT(label->GetWidth(), longWidth);
+  EXPECT_EQ(label->QLabel::geometry(), QRect(QPoint(30, 40), label->sizeHint()));
+  label->SetText("A long text", false, false);
+  EXPECT_LT(label->GetWidth(), longWidth);
+}
+
+TEST_F(ItemTest, TipsShowMarkupAsCharactersUnlessToldOtherwise) {
+  TestDialog dialog;
+  auto* label = new RVADM_Label(&dialog, "x", false);
+  label->SetTip("<b>bold</b>", false, true);
+  EXPECT_EQ(label->toolTip(), "<b>bold</b>");
+  label->SetTip("<b>bold</b>", false, false);
+  EXPECT_TRUE(label->toolTip().contains("&lt;b&gt;")) << label->toolTip().toStdString();
+  label->SetTip("5 < 6", false, false);
+  EXPECT_EQ(label->toolTip(), "5 < 6");
+  label->SetTip(nullptr, true, false);
+  EXPECT_EQ(label->toolTip(), "");
+}
+
+TEST_F(ItemTest, StateBeforeAndAfterTheDialogIsShown) {
+  TestDialog dialog;
+  auto* button = new RVADM_TextPushButton(&dialog, "x");
+  auto* hidden = new RVADM_TextPushButton(&dialog, "y");
+  hidden->SetVisible(false);
+  for (const bool shown : {false, true}) {
+    if (shown) dialog.Open();
+    EXPECT_TRUE(button->IsVisible());
+    EXPECT_FALSE(hidden->IsVisible());
+    EXPECT_TRUE(button->IsEnabled());
+  }
+  button->SetFocus(true);
+  EXPECT_TRUE(button->HasFocus());
+  button->setFocusPolicy(Qt::NoFocus);
+  button->SetFocus(true);
+  EXPECT_FALSE(button->HasFocus());
+  button->SetEnabled(false);
+  EXPECT_FALSE(button->IsEnabled());
+}
+
+struct BoundsWatch : RVADM_Label {
+  using RVADM_Label::RVADM_Label;
+  void Notify(int code) override { codes.push_back(code); }
+  std::vector<int> codes;
+};
+
+TEST_F(ItemTest, NotifyOfBoundsAndMoveByTheirSides) {
+  TestDialog dialog;
+  auto* label = new BoundsWatch(&dialog, "x", false);
+  label->SetBounds({10, 20, 40, 30});
+  label->codes.clear();
+  label->SetBounds({10, 20, 40, 30});
+  label->SetLeft(50);
+  label->SetRight(60);
+  label->SetBottom(90);
+  label->MoveTo(5, -5, true);
+  EXPECT_EQ(label->codes, std::vector<int>(5, kBoundsChanged));
+  EXPECT_EQ(label->QLabel::geometry(), QRect(55, 15, 10, 70));
+
+  auto* other = new RVADM_Label(&dialog, "y", false);
+  other->SetBounds({0, 0, 8, 6});
+  label->SetBounds({100, 100, 120, 110});
+  const auto place = [&](void (RVADM_Item::*side)(RVADM_Item*, int, int), int flags, int gap) {
+    (label->*side)(other, flags, gap);
+    return other->QLabel::pos();
+  };
+  EXPECT_EQ(place(&RVADM_Item::PlaceBelow, 1025, 3), QPoint(100, 113));
+  EXPECT_EQ(place(&RVADM_Item::PlaceAbove, 1026, kDefaultGap), QPoint(112, 87));
+  EXPECT_EQ(place(&RVADM_Item::PlaceRightOf, 1536, kDefaultGap), QPoint(124, 102));
+  EXPECT_EQ(place(&RVADM_Item::PlaceLeftOf, 1024, 10), QPoint(82, 102));
+}
+
+TEST_F(ItemTest, MisspeltWaysToTheDialogThrow) {
+  TestDialog dialog;
+  auto* label = new RVADM_Label(&dialog, "x", false);
+  const auto messageOf = [](const std::function<void()>& act) -> std::string {
+    try {
+      act();
+    } catch (const std::runtime_error& error) {
+      return error.what();
+    }
+    return "";
+  };
+  EXPECT_EQ(
+      messageOf([&] { label->ConnectToDialog(SIGNAL(linkActivated(QString)), SLOT(OnNothing()), false); }),
+      "Connection to dialog slot failed!");
+  EXPECT_EQ(messageOf([&] { label->CallDialogSlot("OnNothing"); }), "Meta-call to dialog slot failed!");
+  EXPECT_EQ(dialog.currentItem, nullptr);
+  auto* plain = new RVADM_CustomItem(&dialog);
+  EXPECT_EQ(messageOf([&] { plain->SetText("x", false, false); }), "Call to SetTextInt() failed!");
+  EXPECT_EQ(TextOf(*plain, 32, true), "");
+
+  dialog.react = [&] {
+    EXPECT_EQ(dialog.currentItem, label);
+    throw std::logic_error("handler");
+  };
+  EXPECT_THROW(label->CallDialogSlot("OnLabelClicked"), std::logic_error);
+  EXPECT_EQ(dialog.currentItem, nullptr);
+}
+
+}  // namespace
+}  // namespace qRVADM

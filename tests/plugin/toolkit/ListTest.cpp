@@ -1,0 +1,388 @@
+// List boxes and their rows, with a user at mouse and keyboard.
+#include <QHelpEvent>
+#include <QListWidget>
+#include <memory>
+
+#include "DialogWorld.h"
+#include "IADMDrawer.h"
+#include "RVADM_ListBox.h"
+#include "RVADM_NonModalDialog.h"
+#include "RVADM_TabListBox.h"
+#include "RVADM_TabListEntry.h"
+#include "RVADM_TextPushButton.h"
+
+namespace qRVADM {
+namespace {
+
+constexpr int kDoubleClickMilliseconds = 200;
+using Rows = std::vector<int>;
+
+struct TestEntry : RVADM_ListEntry {
+  using RVADM_ListEntry::RVADM_ListEntry;
+  void Draw(IADMDrawer& drawer) override {
+    drawer.GetBoundsRect(&bounds);
+    RVADM_ListEntry::Draw(drawer);
+    Call(drawn);
+  }
+  bool Track(ADMTracker& tracker) override {
+    last = tracker;
+    Call(tracked);
+    return true;
+  }
+  // `act` may delete this.
+  static void Call(std::function<void()> act) {
+    if (act) act();
+  }
+  ADMRect bounds{};
+  ADMTracker last;
+  std::function<void()> drawn, tracked;
+};
+
+struct ListDialog : TestDialog {
+  void OnItemNotifyAsync(RVADM_Item*) override {
+    ++later;
+    if (reactLater) reactLater();
+  }
+  int later = 0;
+  std::function<void()> reactLater;
+};
+
+class ListTest : public DialogTest {
+ protected:
+  ListTest() { QApplication::setDoubleClickInterval(kDoubleClickMilliseconds); }
+  ~ListTest() override { QApplication::setDoubleClickInterval(usualInterval); }
+
+  // Six rows, "row 0" to "row 5", 20 pixels high each.
+  RVADM_ListBox& Open(bool multi) {
+    rows.clear();
+    dialog.reset();  // before the next: a dialog stands on the one that is up
+    dialog = std::make_unique<ListDialog>();
+    list = new RVADM_ListBox(dialog.get(), multi);
+    list->SetRowHeight(20);
+    for (int row = 0; row < 6; ++row) {
+      rows.push_back(new TestEntry(list, ("row " + std::to_string(row)).c_str(), false));
+    }
+    list->SetBounds({10, 10, 210, 190});
+    dialog->Open();
+    return *list;
+  }
+  RVADM_ListBox& OpenWithSelection(const Rows& selected) {
+    Open(true);
+    for (const int row : selected) rows[static_cast<std::size_t>(row)]->Select(true);
+    return *list;
+  }
+
+  QPoint InRow(int row, const QPoint& place = {60, 10}) const {
+    return list->viewport()->mapTo(dialog.get(), QPoint(0, 20 * row) + place);
+  }
+  void ClickRow(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    Press(*dialog, InRow(row), Qt::LeftButton, keys);
+    Release(*dialog, InRow(row), Qt::LeftButton, keys);
+  }
+  void DoubleClickRow(int row) { QTest::mouseDClick(dialog->windowHandle(), Qt::LeftButton, {}, InRow(row)); }
+  bool ShowTip(int row) {
+    const QPoint place(60, 20 * row + 10);
+    QHelpEvent tip(QEvent::ToolTip, place, list->viewport()->mapToGlobal(place));
+    return QApplication::sendEvent(list->viewport(), &tip);
+  }
+  // What is shown as selected, without asking the list.
+  Rows Shown() const {
+    Rows shown;
+    for (int row = 0; row < list->count(); ++row) {
+      if (list->item(row)->isSelected()) shown.push_back(row);
+    }
+    return shown;
+  }
+  static void WaitForDelay() { QTest::qWait(kDoubleClickMilliseconds + 100); }
+
+  const int usualInterval = QApplication::doubleClickInterval();
+  std::unique_ptr<ListDialog> dialog;
+  RVADM_ListBox* list = nullptr;
+  std::vector<TestEntry*> rows;
+};
+
+// --- the delay ---
+
+TEST_F(ListTest, ClickOnAMultipleSelectionWaitsForADoubleClick) {
+  const Rows all{1, 2, 3}, cut{2};
+  const struct {
+    const char* name;
+    std::function<void()> meanwhile;
+    Rows atOnce, afterwards;
+    int notified;
+  } cases[] = {{"nothing", [] {}, all, cut, 1},
+               {"a read", [this] { EXPECT_EQ(list->GetSelectedCount(), 1); }, cut, cut, 1},
+               {"the next click",
+                [this] { Press(*dialog, InRow(4), Qt::LeftButton, Qt::ControlModifier); },
+                {2, 4},
+                {2, 4},
+                2},
+               {"a new row", [this] { new RVADM_ListEntry(list, "new", false); }, all, all, 0},
+               {"a row less", [this] { delete rows[5]; }, all, all, 0},
+               {"ClearSelection", [this] { list->ClearSelection(); }, {}, {}, 1},
+               {"Clear", [this] { list->Clear(); }, {}, {}, 0},
+               {"the model's reset", [this] { list->selectionModel()->reset(); }, {}, {}, 0}};
+  for (const auto& c : cases) {
+    OpenWithSelection(all);
+    ClickRow(2);
+    EXPECT_EQ(Shown(), all) << c.name;
+    c.meanwhile();
+    EXPECT_EQ(Shown(), c.atOnce) << c.name;
+    WaitForDelay();
+    EXPECT_EQ(Shown(), c.afterwards) << c.name;
+    EXPECT_EQ(dialog->TimesNotified(list), c.notified) << c.name;
+    EXPECT_EQ(dialog->later, c.notified) << c.name;
+  }
+}
+
+TEST_F(ListTest, DelayLastsALittleLongerThanADoubleClickFromTheLastPress) {
+  OpenWithSelection({1, 2, 3});
+  ClickRow(2);
+  QTest::qWait(kDoubleClickMilliseconds / 2);
+  list->selectionModel()->metaObject()->invokeMethod(list->selectionModel(), "beginPendingCommands");
+  QElapsedTimer sinceBegin;
+  sinceBegin.start();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Shown() == Rows{2}; }));
+  EXPECT_GE(sinceBegin.elapsed(), (kDoubleClickMilliseconds + 25) * 0.95) << "as coarse as such timers are";
+}
+
+TEST_F(ListTest, SingleSelectionAndKeysAreNotDelayed) {
+  Open(false);
+  dialog->react = [this] { EXPECT_EQ(dialog->later, 0) << "comes from the event loop"; };
+  Press(*dialog, InRow(2));
+  dialog->react = {};
+  EXPECT_EQ(Shown(), Rows{2});
+  EXPECT_EQ(dialog->TimesNotified(list), 1);
+  QTest::mouseMove(dialog->windowHandle(), InRow(4));
+  Release(*dialog, InRow(4));
+  EXPECT_EQ(Shown(), Rows{2}) << "dragging sweeps nothing";
+  list->SetFocus(true);
+  QTest::keyClick(list, Qt::Key_Up);
+  EXPECT_EQ(list->GetActiveEntry()->text(), "row 3") << "the drag made row 4 the current one";
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog->later, 2);
+}
+
+TEST_F(ListTest, DoubleClickActsOnTheWholeSelection) {
+  OpenWithSelection({1, 2, 3});
+  auto* button = new RVADM_TextPushButton(dialog.get(), "Edit");
+  DoubleClickRow(1);  // nobody to notify
+  list->SetDoubleClickItem(button);
+  DoubleClickRow(1);
+  WaitForDelay();
+  EXPECT_EQ(Shown(), (Rows{1, 2, 3}));
+  EXPECT_EQ(dialog->TimesNotified(list), 0);
+  EXPECT_EQ(dialog->TimesNotified(button), 1);
+  button->SetEnabled(false);
+  DoubleClickRow(1);
+  EXPECT_EQ(dialog->TimesNotified(button), 1);
+  delete button;
+  DoubleClickRow(1);
+  EXPECT_EQ(list->GetDoubleClickItem(), nullptr);
+}
+
+// --- rows that go while they are in use ---
+
+TEST_F(ListTest, RowsMayGoFromInsideTheirHandlers) {
+  QApplication::setDoubleClickInterval(1);
+  const std::pair<const char*, std::function<void()>> removals[] = {
+      {"the row", [this] { delete list->GetEntry(2); }},
+      {"the rows above",
+       [this] {
+         for (int i = 0; i < 2; ++i) delete list->GetEntry(0);
+       }},
+      {"what is selected",
+       [this] {
+         while (RVADM_ListEntry* entry = list->GetSelectedEntry(0)) delete entry;
+       }},
+      {"all", [this] { list->Clear(); }}};
+  const std::pair<const char*, std::function<void(std::function<void()>)>> moments[] = {
+      {"notification", [this](auto remove) { dialog->react = remove; }},
+      {"later notification", [this](auto remove) { dialog->reactLater = remove; }},
+      {"press", [this](auto remove) { rows[2]->tracked = remove; }},
+      {"drag",
+       [this](auto remove) {
+         Press(*dialog, InRow(2));
+         remove();
+         QTest::mouseMove(dialog->windowHandle(), InRow(3));
+       }},
+      {"drawing", [this](auto remove) { rows[2]->drawn = remove; }}};
+  for (const auto& [moment, when] : moments) {
+    for (const auto& [what, remove] : removals) {
+      for (const bool multi : {false, true}) {
+        Open(multi);
+        bool removed = false;
+        when([&removed, act = &remove] {
+          if (!std::exchange(removed, true)) (*act)();
+        });
+        ShowTip(2);
+        list->Invalidate();
+        DoubleClickRow(2);
+        QTest::qWait(40);
+        EXPECT_TRUE(removed) << moment << ", " << what;
+        QTest::keyClick(list, Qt::Key_Down);
+        EXPECT_LE(list->GetSelectedCount(), list->GetEntryCount());
+      }
+    }
+  }
+}
+
+TEST_F(ListTest, TheListMayGoFromItsLaterNotificationAndFromATip) {
+  Open(true);
+  const QPointer<QWidget> alive(list);
+  dialog->reactLater = [this] { delete list; };
+  Press(*dialog, InRow(1));
+  WaitForDelay();
+  EXPECT_FALSE(alive);
+  Open(true);
+  rows[2]->tracked = [this] { delete list; };
+  EXPECT_TRUE(ShowTip(2));
+}
+
+// --- rows ---
+
+TEST_F(ListTest, RowsAreFoundCountedAndRead) {
+  OpenWithSelection({4, 1, 2});
+  EXPECT_EQ(list->GetSelectedCount(), 3);
+  EXPECT_EQ(list->GetSelectedEntry(0), rows[1]);
+  EXPECT_EQ(list->GetSelectedEntry(2), rows[4]) << "in the order of the rows";
+  EXPECT_EQ(list->GetSelectedEntry(3), nullptr);
+  EXPECT_EQ(list->GetSelectedEntry(-1), nullptr);
+  EXPECT_EQ(list->GetActiveEntry(), rows[2]);
+  list->ClearSelection();
+  EXPECT_EQ(list->GetActiveEntry(), nullptr);
+  EXPECT_NE(list->currentItem(), nullptr);
+  list->addItem("foreign");
+  EXPECT_EQ(list->GetEntry(6), nullptr);
+  EXPECT_EQ(list->GetEntry(7), nullptr);
+  EXPECT_EQ(list->FindEntry("foreign"), nullptr);
+  auto* custom = new RVADM_ListEntry(list, "Custom", true);
+  auto* cut = new RVADM_ListEntry(list, "Cut \xC3\xA4", false);
+  EXPECT_EQ(list->FindEntry("Cu"), custom);
+  EXPECT_EQ(list->FindEntry("cut"), cut);
+  EXPECT_EQ(list->FindEntry("ut"), nullptr);
+  char text[6];
+  cut->GetText(text, sizeof text, true);
+  EXPECT_STREQ(text, "Cut ") << "no half a character";
+  RVADM_ListEntry empty(list, nullptr, true);
+  empty.GetText(text, sizeof text, false);
+  EXPECT_STREQ(text, "");
+  empty.SetText("\xC3\xA4", false);
+  empty.GetText(text, sizeof text, false);
+  EXPECT_STREQ(text, "\xC3\xA4");
+  EXPECT_EQ(empty.data, 0);
+  EXPECT_TRUE(dialog->notified.empty()) << "nothing of this came from the user";
+}
+
+TEST_F(ListTest, BoxesAreTickedByTheMouse) {
+  Open(false);
+  rows[1]->SetCheckable();
+  for (const bool checked : {true, false}) {
+    rows[1]->SetChecked(checked);
+    EXPECT_EQ(rows[1]->IsChecked(), checked);
+    rows[1]->last.action = 0;
+    Press(*dialog, InRow(1, {8, 10}));
+    Release(*dialog, InRow(1, {8, 10}));
+    EXPECT_EQ(rows[1]->IsChecked(), !checked);
+    EXPECT_EQ(rows[1]->last.action, 0) << "the click ends with the box";
+    EXPECT_TRUE(Shown().empty());
+  }
+}
+
+TEST_F(ListTest, MeasuresFollowRowsMarginsAndScrollBar) {
+  RVADM_ListBox& measured = Open(false);
+  const QMargins margins = measured.contentsMargins();
+  const int frame = margins.top() + margins.bottom();
+  EXPECT_EQ(measured.GetHeightForRows(0), frame);
+  EXPECT_EQ(measured.GetHeightForRows(3), 60 + frame);
+  measured.SetRowHeight(0);
+  EXPECT_EQ(measured.GetHeightForRows(2), 2 * measured.visualItemRect(rows[0]).height() + frame);
+  measured.Clear();
+  EXPECT_GE(measured.GetHeightForRows(2), frame);
+  for (const auto policy : {Qt::ScrollBarAlwaysOn, Qt::ScrollBarAlwaysOff}) {
+    measured.setVerticalScrollBarPolicy(policy);
+    measured.SetContentWidth(120);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(measured.viewport()->width(), 120);
+    EXPECT_EQ(measured.GetHeight(), 180);
+  }
+}
+
+TEST_F(ListTest, ColumnsRunBetweenTabStops) {
+  struct Columns : RVADM_TabListBox {
+    Columns(RVADM_ItemParent* parent, std::uint32_t count, std::vector<std::int32_t> stops)
+        : RVADM_TabListBox(parent, false) {
+      tabCount = count;
+      tabStops = std::move(stops);
+    }
+  };
+  TestDialog columnDialog;
+  const struct {
+    std::uint32_t count;
+    std::vector<std::int32_t> stops;
+    int column, left, right;
+  } cases[] = {{2, {20}, 0, 3, 20},         {2, {20}, 1, 20, 90},    {3, {20, 50}, 1, 20, 50},
+               {3, {0x2014, 50}, 0, 3, 20}, {0, {}, 0, 3, 90},       {3, {20}, 1, 20, 90},
+               {2, {20}, -1, 3, 90},        {2, {20, 50}, 1, 20, 90}};
+  for (const auto& c : cases) {
+    auto* columns = new Columns(&columnDialog, c.count, c.stops);
+    auto* entry = new RVADM_TabListEntry(columns, nullptr, false);
+    ADMRect cell{};
+    EXPECT_TRUE(entry->GetTabRect({3, 5, 90, 25}, c.column, &cell));
+    EXPECT_EQ(ToQRect(cell), ToQRect({c.left, 5, c.right, 25})) << &c - cases;
+  }
+}
+
+// --- drawing and tracking ---
+
+TEST_F(ListTest, RowsDrawAndTrackInTheirOwnPixels) {
+  Open(false);
+  std::size_t whenDrawn = 0, whenTracked = 1;
+  rows[1]->drawn = [&] { whenDrawn = host.contexts().depth(); };
+  rows[2]->tracked = [&] { whenTracked = host.contexts().depth(); };
+  list->viewport()->grab();
+  EXPECT_EQ(whenDrawn, 1U) << "drawing has a context in every dialog";
+  EXPECT_EQ(ToQRect(rows[1]->bounds), QRect(0, 0, list->viewport()->width(), 20));
+  const struct {
+    std::function<void()> act;
+    int action;
+    std::uint32_t modifiers;
+  } cases[] = {
+      {[this] { ShowTip(2); }, kToolTipAction, 0},
+      {[this] { Press(*dialog, InRow(2), Qt::RightButton, Qt::AltModifier); }, kLeftDownAction,
+       kRightButtonDown | kAltDown},
+      {[this] { Release(*dialog, InRow(2), Qt::RightButton, Qt::AltModifier); }, kLeftUpAction, kAltDown},
+      {[this] { QTest::mouseDClick(dialog->windowHandle(), Qt::LeftButton, {}, InRow(2)); },
+       kDoubleClickAction, kLeftButtonDown}};
+  for (const auto& c : cases) {
+    c.act();
+    EXPECT_EQ(rows[2]->last.action, c.action);
+    EXPECT_EQ(rows[2]->last.modifiers, c.modifiers) << c.action;
+    EXPECT_EQ(QPoint(rows[2]->last.x, rows[2]->last.y), QPoint(60, 10)) << c.action;
+    EXPECT_EQ(whenTracked, 0U) << "within the message that opened the dialog";
+  }
+  list->ClearSelection();
+  rows[2]->tracked = [this] { *rows[2]->last.handled = true; };
+  EXPECT_TRUE(ShowTip(2));
+  ClickRow(2);
+  EXPECT_TRUE(Shown().empty()) << "handled: the list sees nothing of it";
+}
+
+TEST_F(ListTest, RowsOfPalettesTrackInAContext) {
+  RVADM_NonModalDialog palette;
+  palette.resize(200, 100);
+  list = new RVADM_ListBox(&palette, true);
+  list->SetRowHeight(20);
+  TestEntry* entry = new TestEntry(list, "row", false);
+  palette.show();
+  std::size_t depth = 0;
+  entry->tracked = [&] { depth = host.contexts().depth(); };
+  ShowTip(0);
+  EXPECT_EQ(depth, 1U);
+  depth = 0;
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, {60, 10});
+  EXPECT_EQ(depth, 1U);
+}
+
+}  // namespace
+}  // namespace qRVADM

@@ -1,0 +1,164 @@
+// A modal dialog from Run to its end, with handlers that behave and handlers that do not.
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSizeGrip>
+#include <QTimer>
+#include <stdexcept>
+
+#include "DialogWorld.h"
+#include "RVADM_TextPushButton.h"
+
+namespace qRVADM {
+namespace {
+
+class ModalDialogTest : public DialogTest {
+ protected:
+  ModalDialogTest() { plugin.RequestSuite("SP Basic Suite"); }  // by which dialogs ask whether they may
+
+  // Runs the dialog, and `act` once it is up.
+  static int RunWith(TestDialog& dialog, const std::function<void()>& act) {
+    QTimer::singleShot(0, &dialog, act);
+    return dialog.Run("Title", false);
+  }
+};
+
+TEST_F(ModalDialogTest, EndsWithTheResultAndCommitsUnlessCancelled) {
+  struct Row {
+    const char* what;
+    std::function<void(TestDialog&)> end;
+    int result;
+    std::vector<int> committed;
+  };
+  const Row rows[] = {
+      {"OK", [](TestDialog& dialog) { dialog.EndDialog(1, false); }, 1, {1}},
+      {"Cancel", [](TestDialog& dialog) { dialog.EndDialog(0, true); }, 0, {}},
+      {"twice",
+       [](TestDialog& dialog) {
+         dialog.EndDialog(3, false);
+         dialog.EndDialog(4, true);
+       },
+       4,
+       {3}},
+      {"Escape", [](TestDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }, 0, {}},
+      {"close", [](TestDialog& dialog) { dialog.close(); }, 0, {}},
+  };
+  for (const Row& row : rows) {
+    TestDialog dialog;
+    EXPECT_EQ(RunWith(dialog, [&] { row.end(dialog); }), row.result) << row.what;
+    EXPECT_EQ(dialog.committed, row.committed) << row.what;
+  }
+  host.interactionAllowed = false;
+  TestDialog silent;
+  bool made = false;
+  silent.create = [&made] { made = true; };
+  EXPECT_EQ(silent.Run("Title", false), -1);
+  EXPECT_FALSE(made);
+}
+
+TEST_F(ModalDialogTest, EscapeIsTheCancelButton) {
+  struct Row {
+    const char* what;
+    std::function<void(TestDialog&, RVADM_Item*&)> handler;
+    int result;
+  };
+  const Row rows[] = {
+      {"ends", [](TestDialog& dialog, RVADM_Item*&) { dialog.EndDialog(7, true); }, 7},
+      {"does nothing", [](TestDialog&, RVADM_Item*&) {}, 0},
+      {"deletes the button",
+       [](TestDialog&, RVADM_Item*& button) {
+         delete button;
+         button = nullptr;
+       },
+       0},
+  };
+  for (const Row& row : rows) {
+    TestDialog dialog;
+    RVADM_Item* cancel = nullptr;
+    dialog.create = [&] { dialog.SetCancelButton(cancel = new RVADM_TextPushButton(&dialog, "No")); };
+    dialog.react = [&] { row.handler(dialog, cancel); };
+    EXPECT_EQ(RunWith(dialog, [&] { QTest::keyClick(&dialog, Qt::Key_Escape); }), row.result) << row.what;
+    EXPECT_EQ(dialog.notified.size(), 1U) << row.what;
+    if (cancel == nullptr) dialog.reject();  // the button is not asked again
+  }
+}
+
+TEST_F(ModalDialogTest, LayoutsThatChangeTheSizeComeToRest) {
+  struct Row {
+    const char* what;
+    int growth, layoutsAtLeast, layoutsAtMost;
+  };
+  const Row rows[] = {{"steady", 0, 1, 2}, {"for ever", 1, 2, 40}};
+  for (const bool resizable : {false, true}) {
+    for (const Row& row : rows) {
+      TestDialog dialog(resizable);
+      int layouts = 0;
+      dialog.layout = [&] { dialog.SetSize(200 + row.growth * ++layouts, 100); };
+      if (row.growth == 0) dialog.layout = [&] { ++layouts, dialog.SetSize(200, 100); };
+      EXPECT_EQ(
+          RunWith(dialog, [&] { QTimer::singleShot(200, &dialog, [&] { dialog.EndDialog(1, true); }); }), 1);
+      EXPECT_GE(layouts, row.layoutsAtLeast) << row.what << resizable;
+      EXPECT_LE(layouts, row.layoutsAtMost) << row.what << resizable;
+    }
+  }
+}
+
+TEST_F(ModalDialogTest, WhatThrowsLeavesNothingBehind) {
+  TestDialog outer;
+  outer.react = [] { throw std::runtime_error("handler"); };
+  RVADM_Item* button = nullptr;
+  outer.create = [&] { button = new RVADM_TextPushButton(&outer, "Go"); };
+  EXPECT_EQ(RunWith(outer,
+                    [&] {
+                      EXPECT_THROW(button->Notify(kUserChanged), std::runtime_error);
+                      TestDialog failing;
+                      failing.create = [] { throw std::runtime_error("items"); };
+                      EXPECT_THROW(failing.Run("Second", false), std::runtime_error);
+                      TestDialog second;
+                      EXPECT_EQ(RunWith(second, [&second] { second.EndDialog(5, true); }), 5);
+                      EXPECT_EQ(RVADMQtManager::QtManager::DialogCount(), 3);
+                      outer.EndDialog(2, true);
+                    }),
+            2);
+  TestDialog resized;
+  resized.layout = [] { throw std::runtime_error("layout"); };
+  EXPECT_THROW(resized.Init(), std::runtime_error);
+  int layouts = 0;
+  resized.layout = [&layouts] { ++layouts; };
+  resized.resize(333, 222);
+  resized.Relayout();
+  EXPECT_EQ(layouts, 1) << "layouts run again after one that threw";
+}
+
+TEST_F(ModalDialogTest, FrameHasItsTitlePlaceAndGrip) {
+  TestDialog dialog(true);
+  char title[16];
+  dialog.SetTitle(
+      "Gr\xC3\xB6\xC3\x9F"
+      "en",
+      false);
+  dialog.GetTitle(title, 4);
+  EXPECT_STREQ(title, "Gr");
+  dialog.SetTitle("", true);
+  EXPECT_EQ(dialog.windowTitle(), " ");
+  EXPECT_TRUE(dialog.IsResizable());
+  EXPECT_FALSE(TestDialog(false).IsResizable());
+  auto* grip = dialog.findChild<QSizeGrip*>();
+  ASSERT_NE(grip, nullptr);
+  EXPECT_EQ(grip->size(), grip->sizeHint());
+
+  dialog.Open();
+  dialog.CenterOnScreen();
+  const QRect screen = QGuiApplication::primaryScreen()->geometry();
+  const QRect frame = dialog.frameGeometry();
+  EXPECT_EQ((frame.left() + frame.right()) / 2, (screen.left() + screen.right()) / 2);
+  EXPECT_EQ((frame.top() + frame.bottom()) / 2, (screen.top() + screen.bottom()) / 2);
+  ADMRect local;
+  dialog.GetLocalRect(&local);
+  EXPECT_EQ(Width(local), dialog.width());
+  ADMPoint corner{0, 0};
+  dialog.LocalToScreenPoint(&corner);
+  EXPECT_EQ(QPoint(corner.x, corner.y), dialog.geometry().topLeft());
+}
+
+}  // namespace
+}  // namespace qRVADM

@@ -1,0 +1,323 @@
+// Fields for numbers, with a user at keys, wheel and mouse.
+#include <QLineEdit>
+#include <QMimeData>
+#include <QWheelEvent>
+#include <cmath>
+
+#include "DialogWorld.h"
+#include "RVADM_NumericEdit.h"
+#include "RVADM_TextEdit.h"
+#include "RVADM_TextPushButton.h"
+
+namespace qRVADM {
+namespace {
+
+constexpr double kInf = std::numeric_limits<double>::infinity();
+constexpr double kPointsPerMillimeter = 72 / 25.4;
+
+class NumericEditTest : public DialogTest {
+ protected:
+  NumericEditTest() {
+    for (const char* suite : {"SP Basic Suite", "AI User Suite", "AI Unicode String Suite"}) {
+      EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
+    }
+  }
+};
+
+// A field from 0.01 pt to 20 mm in a dialog that is up, with another field beside it.
+struct World {
+  explicit World(bool immediate, bool onPalette = false) {
+    if (onPalette) dialog.BecomePalette();
+    edit = new RVADM_NumericEdit(&dialog, immediate, -1, 0.01, 20 * kPointsPerMillimeter, 1);
+    edit->SetUnits(kMillimeterUnits);
+    edit->SetShowArrows(true);
+    other = new RVADM_TextEdit(&dialog, "", false, false);
+    other->move(0, 100);
+    ok = new RVADM_TextPushButton(&dialog, "OK");
+    ok->move(0, 200);
+    dialog.SetDefaultButton(ok);
+    dialog.Open();
+  }
+  void Start(double millimeters) const {
+    edit->SetValue(kMillimeterUnits, millimeters);
+    other->setFocus();
+    edit->setFocus();
+  }
+  void Type(const QString& typed) const {
+    edit->selectAll();
+    if (typed.isEmpty()) {
+      Key(Qt::Key_Delete);
+    } else {
+      QTest::keyClicks(edit, typed);
+    }
+  }
+  void Key(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) const {
+    QTest::keyClick(dialog.windowHandle(), key, held);
+  }
+  bool Wheel(const QPoint& point, Qt::KeyboardModifiers held = Qt::NoModifier) const {
+    QWheelEvent wheel(point, edit->mapToGlobal(point), {}, {0, 120}, Qt::NoButton, held, Qt::NoScrollPhase,
+                      false);
+    return QApplication::sendEvent(edit, &wheel) && wheel.isAccepted();
+  }
+  std::string Shown() const { return edit->GetTextInt().toStdString(); }
+  double Value() const { return edit->GetValue(kMillimeterUnits); }
+  int Notified() { return static_cast<int>(std::exchange(dialog.notified, {}).size()); }
+
+  TestDialog dialog;
+  RVADM_NumericEdit* edit;
+  RVADM_TextEdit* other;
+  RVADM_TextPushButton* ok;
+};
+
+TEST_F(NumericEditTest, StepsLandOnMultiples) {
+  const struct {
+    double from;
+    Qt::Key key;
+    Qt::KeyboardModifiers held;
+    const char* shown;
+    int notified = 1;
+  } cases[] = {{2.3, Qt::Key_Up, {}, "3 mm"},
+               {3, Qt::Key_Up, {}, "4 mm"},
+               {2.3, Qt::Key_Down, {}, "2 mm"},
+               {2.3, Qt::Key_Up, Qt::ControlModifier, "2.5 mm"},
+               {2.3, Qt::Key_Up, Qt::ShiftModifier, "10 mm"},
+               {2.3, Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier, "5 mm"},
+               {2.3, Qt::Key_PageUp, {}, "10 mm"},
+               {2.3, Qt::Key_PageUp, Qt::ControlModifier, "5 mm"},
+               {19.5, Qt::Key_PageUp, Qt::ShiftModifier, "20 mm"},
+               {0.5, Qt::Key_Down, {}, "0.004 mm"},
+               {20, Qt::Key_Up, {}, "20 mm", 0}};
+  for (const bool immediate : {false, true}) {
+    World world(immediate);
+    std::string heard;
+    world.dialog.react = [&] { heard = world.Shown(); };
+    for (const auto& one : cases) {
+      world.Start(one.from);
+      world.Key(one.key, one.held);
+      EXPECT_EQ(world.Shown(), one.shown) << one.from;
+      EXPECT_EQ(world.Notified(), one.notified) << one.from;
+      EXPECT_EQ(heard, one.notified == 0 ? heard : one.shown) << "the handler sees the new number";
+    }
+    world.Start(2);
+    world.Type("7");
+    world.Key(Qt::Key_Up);
+    EXPECT_EQ(world.Shown(), "8 mm") << "what was typed counts";
+    world.edit->setReadOnly(true);
+    world.Key(Qt::Key_Up);
+    EXPECT_EQ(world.Shown(), "8 mm");
+  }
+}
+
+TEST_F(NumericEditTest, WheelAndArrowsStepInTheFieldThatTheUserIsIn) {
+  World world(false);
+  world.Start(2);
+  EXPECT_TRUE(world.Wheel({5, 5}));
+  EXPECT_TRUE(world.Wheel({5, 5}, Qt::ControlModifier));
+  EXPECT_EQ(world.Shown(), "4 mm") << "Qt alone would take ten steps with Control";
+  EXPECT_FALSE(world.Wheel({5, -5}));
+  const QPoint up(world.edit->width() - 5, 5);
+  const QPoint point = InDialog(world.dialog, *world.edit, up);
+  Press(world.dialog, point);
+  Release(world.dialog, point);
+  EXPECT_EQ(world.Shown(), "5 mm");
+  EXPECT_EQ(world.Notified(), 3);
+  world.other->setFocus();
+  EXPECT_FALSE(world.Wheel({5, 5}));
+  EXPECT_EQ(world.Shown(), "5 mm");
+}
+
+TEST_F(NumericEditTest, TypedNumbersCountAtTheEndOrWithEachKey) {
+  const struct {
+    const char* typed;
+    const char* shown;
+    double whileTyped;
+    int keys;  // that the immediate field notifies of
+  } cases[] = {{"5", "5 mm", 5, 1},          {"2,5", "2.5 mm", 2.5, 3}, {"1 cm", "10 mm", 10, 4},
+               {"99", "20 mm", 20, 2},       {"x", "3 mm", 3, 1},       {"", "3 mm", 3, 1},
+               {"0", "0.004 mm", 0.0035, 1}, {"50%", "1.5 mm", 0, 3}};
+  for (const auto& one : cases) {
+    World plain(false), immediate(true);
+    for (World* world : {&plain, &immediate}) {
+      const bool isImmediate = world == &immediate;
+      world->Start(3);
+      world->Type(one.typed);
+      EXPECT_EQ(world->Shown(), one.typed);
+      EXPECT_EQ(world->Notified(), isImmediate ? one.keys : 0) << one.typed;
+      const bool isPercentage = std::string(one.typed) == "50%";  // each key changes what it is of
+      if (!isPercentage) {
+        EXPECT_NEAR(world->Value(), isImmediate ? one.whileTyped : 3, 1e-4) << one.typed;
+      }
+      world->Key(Qt::Key_Tab);
+      EXPECT_FALSE(world->edit->HasFocus());
+      if (!isPercentage || !isImmediate) {
+        EXPECT_EQ(world->Shown(), one.shown);
+      }
+      EXPECT_EQ(world->Notified(), isImmediate ? 0 : 1) << one.typed;
+      EXPECT_FALSE(world->edit->IsModified());
+    }
+  }
+}
+
+TEST_F(NumericEditTest, ReturnCommitsBeforeItPressesTheDefaultButton) {
+  const struct {
+    const char* typed;  // null for nothing
+    const char* shown;
+    int returns, returnsWhenImmediate;
+  } cases[] = {{nullptr, "3 mm", 1, 1}, {"5", "5 mm", 2, 1}, {"3 mm", "3 mm", 1, 1},
+               {"99", "20 mm", 2, 2},   {"x", "3 mm", 2, 2}, {"2.00049", "2 mm", 2, 1}};
+  for (const bool immediate : {false, true}) {
+    for (const auto& one : cases) {
+      World world(immediate);
+      world.Start(3);
+      if (one.typed != nullptr) world.Type(one.typed);
+      int returns = 0;
+      for (; world.dialog.TimesNotified(world.ok) == 0 && returns < 4; ++returns) {
+        world.Key(Qt::Key_Return);
+        EXPECT_EQ(world.Shown(), one.shown);
+      }
+      EXPECT_EQ(returns, immediate ? one.returnsWhenImmediate : one.returns) << (one.typed ? one.typed : "");
+      if (!immediate) {
+        EXPECT_EQ(world.dialog.TimesNotified(world.edit), one.typed == nullptr ? 0 : 1);
+      }
+    }
+  }
+  World world(false);
+  world.Key(Qt::Key_Escape);
+  EXPECT_FALSE(world.dialog.isVisible());
+}
+
+TEST_F(NumericEditTest, KeysThatEndTheEditingGiveThePaletteItsKeyboardBack) {
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+    World world(false, true);
+    world.Start(3);
+    world.Type("7");
+    world.Key(key);
+    EXPECT_FALSE(world.edit->HasFocus());
+    EXPECT_EQ(world.Shown(), "7 mm");
+    EXPECT_EQ(world.Notified(), 1) << "and not the default button";
+    world.edit->SetKeepEmpty(true);
+    world.edit->SetText("", false, false);
+    world.edit->setFocus();
+    world.Key(key);
+    EXPECT_EQ(world.Shown(), "");
+  }
+}
+
+TEST_F(NumericEditTest, AnEmptyFieldStaysEmptyWhereItMay) {
+  World world(false);
+  world.edit->SetKeepEmpty(true);
+  world.Start(3);
+  world.Type("");
+  world.other->setFocus();
+  EXPECT_EQ(world.Shown(), "3 mm") << "was not empty when the user came";
+  world.edit->SetText("", false, false);
+  for (const auto& [typed, shown] : {std::pair{"", ""}, {"x", ""}, {"4", "4 mm"}}) {
+    world.edit->setFocus();
+    if (*typed != '\0') world.Type(typed);
+    world.other->setFocus();
+    EXPECT_EQ(world.Shown(), shown) << typed;
+  }
+  world.edit->SetUnits(kPointUnits);
+  EXPECT_EQ(world.Shown(), "11.339 pt");
+  world.edit->SetText("", false, false);
+  world.edit->SetUnits(kMillimeterUnits);
+  EXPECT_EQ(world.Shown(), "");
+  world.Notified();
+  world.edit->setFocus();
+  world.Key(Qt::Key_Return);
+  EXPECT_EQ(world.Notified(), 1) << "the default button";
+  world.edit->SetKeepEmpty(false);
+  EXPECT_EQ(world.Shown(), "4 mm");
+}
+
+TEST_F(NumericEditTest, AMenuLeavesTheTypedTextAlone) {
+  World world(false);
+  world.Start(3);
+  world.Type("4");
+  for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
+    QFocusEvent focus(type, Qt::PopupFocusReason);
+    QApplication::sendEvent(world.edit, &focus);
+    EXPECT_EQ(world.Shown(), "4");
+  }
+  EXPECT_TRUE(world.edit->IsModified());
+  EXPECT_EQ(world.Notified(), 0);
+}
+
+TEST_F(NumericEditTest, DecimalsAndWidthFollowTheRange) {
+  TestDialog dialog;
+  const struct {
+    int decimals;
+    double minimum, maximum, step;
+    const char* shown;
+    const char* sample;  // null: as wide as Qt has it
+  } cases[] = {{2, 0, 9, 1, "1.23", "000."},     {1, 0.01, 10000, 1, "1.2", "000000."},
+               {0, -150, 150, 1, "1", "0000"},   {-1, 0, 9, 0.01, "1.23", nullptr},
+               {-1, 0, 9, 1, "1.235", nullptr},  {-1, 0, 9, 0.5, "1.2", nullptr},
+               {0, -kInf, kInf, 1, "1", nullptr}};
+  for (const auto& one : cases) {
+    RVADM_NumericEdit edit(&dialog, false, one.decimals, one.minimum, one.maximum, one.step);
+    edit.SetValue(kNoUnits, 1.2346);
+    EXPECT_EQ(edit.GetTextInt().toStdString(), one.shown);
+    if (one.sample == nullptr) continue;
+    const int text = edit.fontMetrics().horizontalAdvance(one.sample);
+    dialog.show();
+    edit.show();
+    EXPECT_EQ(edit.findChild<QLineEdit*>()->width(), text + 5) << one.sample;
+    edit.SetUnits(kMillimeterUnits);
+    EXPECT_EQ(edit.sizeHint().width() - edit.width(), edit.fontMetrics().horizontalAdvance(" mm"));
+  }
+}
+
+TEST_F(NumericEditTest, BadInputLeavesTheNumberAlone) {
+  for (const bool immediate : {false, true}) {
+    World world(immediate);
+    world.Start(3);
+    const std::string texts[] = {std::string(1U << 20U, '9') + "x", std::string(1U << 20U, '('), "\xC3(\xFF",
+                                 "1/0", "nan"};
+    for (const std::string& text : texts) {
+      world.edit->setFocus();
+      world.edit->SetText(text.c_str(), false, false);
+      world.other->setFocus();
+      EXPECT_EQ(world.Shown(), "3 mm") << text.substr(0, 8);
+    }
+    for (const auto& [value, shown] :
+         {std::pair{std::nan(""), "3 mm"}, {kInf, "20 mm"}, {-kInf, "0.004 mm"}}) {
+      world.edit->SetValue(kMillimeterUnits, value);
+      EXPECT_EQ(world.Shown(), shown);
+    }
+    EXPECT_EQ(world.Notified(), 0) << "a program's changes are not the user's";
+  }
+}
+
+TEST_F(NumericEditTest, HandlersMayDeleteTheField) {
+  const std::function<void(const World&)> actions[] = {
+      [](const World& world) { world.Key(Qt::Key_Up); },
+      [](const World& world) {
+        world.Wheel({5, 5});
+      },
+      [](const World& world) { world.Type("4"), world.Key(Qt::Key_Return); },
+      [](const World& world) { world.Type("4"), world.other->setFocus(); },
+      [](const World& world) { world.edit->stepUp(); },
+      [](const World& world) {
+        const QPoint up = InDialog(world.dialog, *world.edit, {world.edit->width() - 5, 5});
+        QTest::mousePress(world.dialog.windowHandle(), Qt::LeftButton, {}, up);
+      },
+      [](const World& world) {
+        world.edit->SetModified(true);
+        world.edit->SetUnits(kPointUnits);
+        if (world.dialog.notified.empty()) world.Key(Qt::Key_Return);
+      },
+  };
+  for (const bool immediate : {false, true}) {
+    for (const auto& act : actions) {
+      World world(immediate);
+      world.Start(3);
+      world.dialog.react = [&world] { delete std::exchange(world.edit, nullptr); };
+      act(world);
+      EXPECT_EQ(world.edit, nullptr);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace qRVADM

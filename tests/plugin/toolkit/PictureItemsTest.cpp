@@ -1,0 +1,152 @@
+// Which picture a button or label shows, and where.
+#include <QLineEdit>
+#include <string>
+
+#include "DialogWorld.h"
+#include "Pictures.h"
+#include "RVADM_PictureLabel.h"
+#include "RVADM_PicturePushButton.h"
+#include "RVADM_TextEdit.h"
+
+namespace qRVADM {
+namespace {
+
+constexpr int kNormal = 16830;
+constexpr int kSelected = 16831;
+constexpr int kWide = 16832;
+constexpr int kNoPicture = 16833;
+
+// The light version is green or yellow, the dark one blue or magenta.
+class PictureItemsTest : public DialogTest {
+ protected:
+  PictureItemsTest() {
+    Write(kNormal, Qt::green, Qt::blue);
+    Write(kSelected, Qt::yellow, Qt::magenta);
+    Write(kWide, Qt::green, Qt::blue, 32);
+  }
+
+  static void Write(int id, const QColor& light, const QColor& dark, int width = 16) {
+    bundle.Write("png/p" + std::to_string(id + 1000) + ".png", PNGPicture(width, 16, light));
+    bundle.Write("png/p" + std::to_string(id + 2000) + ".png", PNGPicture(width, 16, dark));
+  }
+  static void ChangeTheme(host::Theme theme) {
+    host::setTheme(theme);
+    RVADMQtManager::QtManager::UpdateUIColorScheme();
+  }
+  static QColor At(QWidget& item, const QPoint& point) { return item.grab().toImage().pixelColor(point); }
+  static QColor Middle(QWidget& item) { return At(item, item.rect().center()); }
+};
+
+TEST_F(PictureItemsTest, ButtonsShowTheirSelectedPictureWhilePressed) {
+  TestDialog dialog;
+  RVADM_PicturePushButton button(&dialog, kNormal, kSelected);
+  const QSize size = button.size();
+  dialog.Open();
+  for (const bool flat : {false, true}) {
+    if (flat) button.SetFlat(true);
+    EXPECT_EQ(button.size(), flat ? QSize(16, 16) : size);
+    EXPECT_EQ(Middle(button), QColor(Qt::green));
+    button.setDown(true);
+    EXPECT_EQ(Middle(button), QColor(Qt::yellow));
+    ChangeTheme(host::Theme::Dark);
+    EXPECT_EQ(Middle(button), QColor(Qt::magenta));
+    button.setDown(false);
+    EXPECT_EQ(Middle(button), QColor(Qt::blue));
+    ChangeTheme(host::Theme::Light);
+  }
+  button.SetPicture(kNormal);
+  button.setDown(true);
+  EXPECT_EQ(Middle(button), QColor(Qt::green)) << "no selected picture any more";
+}
+
+TEST_F(PictureItemsTest, ButtonsKeepTheirSizeWhateverPictureTheyGet) {
+  TestDialog dialog;
+  RVADM_PicturePushButton button(&dialog, kWide, 0);
+  EXPECT_EQ(button.iconSize(), QSize(32, 16));
+  EXPECT_GE(button.width(), 32);
+  const QSize size = button.size();
+  for (const int id : {-1, 0, kNoPicture, kNormal}) {
+    button.SetPicture(id);
+    EXPECT_EQ(button.size(), size) << id;
+    EXPECT_EQ(button.iconSize(), QSize(16, 16)) << id;
+    EXPECT_EQ(button.icon().isNull(), id == 0 || id == kNoPicture) << id;
+  }
+}
+
+TEST_F(PictureItemsTest, LabelsTakeTheSizeOfTheirPictureAndShrinkItToFit) {
+  TestDialog dialog;
+  RVADM_PictureLabel label(&dialog, kNoPicture);
+  dialog.Open();
+  EXPECT_EQ(label.size(), QSize(0, 0));
+  label.SetPicture(kWide);
+  EXPECT_EQ(label.size(), QSize(32, 16));
+  ChangeTheme(host::Theme::Dark);
+  EXPECT_EQ(Middle(label), QColor(Qt::blue));
+  struct Row {
+    QSize size;
+    QRect picture;
+  };
+  for (const Row& row :
+       {Row{{8, 9}, {0, 2, 8, 4}}, Row{{41, 20}, {4, 2, 32, 16}}, Row{{32, 8}, {8, 0, 16, 8}}}) {
+    label.resize(row.size);
+    QRegion blue;
+    const QImage image = label.grab().toImage();
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixelColor(x, y) == QColor(Qt::blue)) blue += QRect(x, y, 1, 1);
+      }
+    }
+    EXPECT_EQ(blue, QRegion(row.picture)) << row.size.width();
+  }
+}
+
+TEST_F(PictureItemsTest, LabelsShowAnyIconThatStaysInEveryBrightness) {
+  TestDialog dialog;
+  RVADM_PictureLabel label(&dialog, 0);
+  dialog.Open();
+  label.resize(16, 16);
+  QPixmap red(16, 16);
+  red.fill(Qt::red);
+  EXPECT_STREQ(label.metaObject()->className(), "RVADM_PictureLabel");
+  EXPECT_TRUE(label.setProperty("icon", QIcon(red)));
+  ChangeTheme(host::Theme::Dark);
+  EXPECT_EQ(Middle(label), QColor(Qt::red));
+  label.setEnabled(false);
+  EXPECT_NE(Middle(label), QColor(Qt::red)) << "disabled";
+}
+
+TEST_F(PictureItemsTest, PicturesInFieldsAreLightWhileTheFieldIsEdited) {
+  ChangeTheme(host::Theme::Dark);
+  TestDialog dialog;
+  RVADM_TextEdit field(&dialog, "Text", false, false);
+  RVADM_TextEdit other(&dialog, "Text", false, false);
+  field.resize(200, 40);
+  auto* button = new RVADM_PicturePushButton(&dialog, kNormal, kSelected);
+  auto* label = new RVADM_PictureLabel(&dialog, kNormal);
+  button->setParent(&field);
+  label->setParent(&field);
+  label->move(100, 10);
+  button->SetSelectedPicture(kSelected);
+  label->SetPicture(kNormal);
+  dialog.Open();
+  const auto expectColors = [&](const QColor& normal, const QColor& selected) {
+    EXPECT_EQ(Middle(*label), normal);
+    for (const bool down : {false, true}) {
+      button->setDown(down);
+      EXPECT_EQ(Middle(*button), down ? selected : normal);
+    }
+  };
+  other.setFocus();
+  expectColors(Qt::blue, Qt::magenta);
+  field.setFocus();
+  expectColors(Qt::green, Qt::yellow);
+  RVADMQtManager::QtManager::UpdateUIColorScheme();
+  button->SetPicture(kSelected);
+  label->SetPicture(kSelected);
+  expectColors(Qt::yellow, Qt::yellow);
+  other.setFocus();
+  expectColors(Qt::magenta, Qt::magenta);
+}
+
+}  // namespace
+}  // namespace qRVADM
