@@ -11,6 +11,7 @@ namespace {
 using Glyph = PanelTitleButton::Glyph;
 
 constexpr int kIconSide = 16;       // pixels
+constexpr int kTextSize = 12;       // as that of plug-ins' dialogs
 constexpr int kLongestTitle = 320;  // what is longer ends in dots
 
 PanelTitleButton* addButton(QWidget& title, Glyph glyph, const std::function<void()>& command) {
@@ -32,6 +33,9 @@ PanelTitle::PanelTitle(const Commands& commands) : icon_(new QLabel), text_(new 
   row->addWidget(icon_);
   row->addSpacing(4);
   text_->setTextFormat(Qt::PlainText);
+  QFont font = text_->font();
+  font.setPixelSize(kTextSize);
+  text_->setFont(font);
   row->addWidget(text_, 1);
   state_ = addButton(*this, Glyph::State, commands.changeState);
   menu_ = addButton(*this, Glyph::Menu, commands.openMenu);

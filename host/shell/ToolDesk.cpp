@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "AnnotatorMessages.h"
+#include "DialogWatch.h"
 #include "DrawingView.h"
 #include "Host.h"
 #include "InfoDisplay.h"
@@ -117,10 +118,11 @@ void ToolDesk::aboutToMove(DrawingView& view) {
 void ToolDesk::work(const ToolRecord* tool, const std::function<std::optional<SPErr>()>& send) {
   const std::string title = tool == nullptr ? std::string() : tool->title;
   const std::size_t alerts = host_.alerts().size();
+  DialogWatch dialogs;
   const std::uint64_t revision = currentRevision(host_);
   const std::optional<SPErr> code = send();
   if (!code) return;
-  const bool wasTold = host_.alerts().size() != alerts;
+  const bool wasTold = dialogs.hasSeen() || host_.alerts().size() != alerts;
   surroundings_.done(currentRevision(host_) != revision);
   if (*code != kSPNoError && !wasTold) surroundings_.failed(title, *code);
 }

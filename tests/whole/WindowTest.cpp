@@ -38,20 +38,22 @@ TEST_F(WindowTest, MarksComeThroughTheMenuAndGoWithUndo) {
 
   bool stillBusy = false;
   bool marksAreSeen = false;
-  const BoxAnswer answer([&](QMessageBox& box) {
+  const BoxAnswer answer([&](QDialog& box) {
     stillBusy = !world.session.takesCommands();
     marksAreSeen = window.grab().toImage() != before;
     QTest::keyClick(&box, Qt::Key_Return);
   });
   world.choose({"Window", world.textOf("Vandrell"), world.textOf("corvane "), world.textOf(kMarksKey)});
   ASSERT_TRUE(answer.seen());
-  EXPECT_EQ(answer.seen()->text, world.host.alerts().back().text);
-  EXPECT_EQ(answer.seen()->title, "corvane-host");
+  EXPECT_EQ(answer.seen()->name, "RVADM_CriticalMessageDialog");
+  EXPECT_EQ(answer.seen()->text,
+            "Not all regmarks are placed because not enough space in the current artboard.");
+  EXPECT_EQ(answer.seen()->title, " ");
   EXPECT_EQ(answer.seen()->defaultButton, "OK");
   EXPECT_EQ(answer.seen()->buttons, 1);
   EXPECT_TRUE(answer.seen()->overTheWindow);
   EXPECT_TRUE(stillBusy);
-  EXPECT_TRUE(marksAreSeen) << "what the alert speaks of shows behind it";
+  EXPECT_TRUE(marksAreSeen) << "what the message speaks of shows behind it";
 
   EXPECT_TRUE(world.hasLayer(kMarksLayer));
   EXPECT_TRUE(window.isWindowModified());

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "DialogTexts.h"
 #include "OffscreenApplication.h"
 #include "Theme.h"
 
@@ -42,27 +43,37 @@ void appendMenu(const QMenu& menu, const std::string& indent, std::string& text)
 
 }  // namespace
 
-BoxAnswer::BoxAnswer(Qt::Key key) : BoxAnswer([key](QMessageBox& box) { QTest::keyClick(&box, key); }) {}
+BoxAnswer::BoxAnswer(Qt::Key key) : BoxAnswer([key](QDialog& box) { QTest::keyClick(&box, key); }) {}
 
 BoxAnswer::BoxAnswer(QMessageBox::StandardButton button)
-    : BoxAnswer([button](QMessageBox& box) { QTest::mouseClick(box.button(button), Qt::LeftButton); }) {}
+    : BoxAnswer([button](QDialog& box) {
+        QTest::mouseClick(qobject_cast<QMessageBox*>(&box)->button(button), Qt::LeftButton);
+      }) {}
 
-BoxAnswer::BoxAnswer(std::function<void(QMessageBox&)> answer) {
+BoxAnswer::BoxAnswer(std::function<void(QDialog&)> answer) {
   QObject::connect(&timer_, &QTimer::timeout, [this, answer = std::move(answer)] { look(answer); });
   timer_.start(5);
 }
 
-void BoxAnswer::look(const std::function<void(QMessageBox&)>& answer) {
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (box == nullptr || !box->isVisible()) return;
+void BoxAnswer::look(const std::function<void(QDialog&)>& answer) {
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  if (dialog == nullptr || !dialog->isVisible()) return;
   timer_.stop();
-  seen_ = Seen{box->windowTitle().toStdString(),
-               box->text().toStdString(),
-               box->icon(),
-               box->defaultButton() != nullptr ? shownText(box->defaultButton()->text()) : std::string(),
-               box->buttons().size(),
-               qobject_cast<QMainWindow*>(box->parentWidget()) != nullptr};
-  answer(*box);
+  seen_ = Seen{dialog->metaObject()->className(),
+               dialog->windowTitle().toStdString(),
+               textsOf(*dialog).toStdString(),
+               QMessageBox::NoIcon,
+               {},
+               dialog->findChildren<QPushButton*>().size(),
+               qobject_cast<QMainWindow*>(dialog->parentWidget()) != nullptr};
+  if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+    seen_->text = box->text().toStdString();
+    seen_->icon = box->icon();
+  }
+  for (const QPushButton* button : dialog->findChildren<QPushButton*>()) {
+    if (button->isDefault()) seen_->defaultButton = shownText(button->text());
+  }
+  answer(*dialog);
 }
 
 std::string shownText(const QString& text) {
@@ -74,7 +85,7 @@ std::string shownText(const QString& text) {
   return plain.toStdString();
 }
 
-WindowWorld::WindowWorld() {
+WindowWorld::WindowWorld(const std::vector<std::filesystem::path>& bundles) {
   setenv("LANGUAGE", "C", 1);
   ensureApplication();
   setTheme(Theme::Light);
@@ -84,8 +95,10 @@ WindowWorld::WindowWorld() {
                                proposedFile = proposed;
                                return fileToSave;
                              }});
-  const std::string complaint = session.loadPlugin(corvaneBundle());
-  EXPECT_EQ(complaint, "");
+  for (const std::filesystem::path& bundle : bundles) {
+    const std::string complaint = session.loadPlugin(bundle);
+    EXPECT_EQ(complaint, "");
+  }
   session.start();
   window->refresh();
   window->show();

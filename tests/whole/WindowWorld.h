@@ -19,13 +19,14 @@ class QMenu;
 
 namespace host {
 
-// Waits for the next message box, notes what is in it and answers it.
+// Waits for the next modal dialog, notes what is in it and answers it.
 class BoxAnswer {
  public:
   struct Seen {
+    std::string name;  // of its class
     std::string title;
     std::string text;
-    QMessageBox::Icon icon;
+    QMessageBox::Icon icon;  // of a message box
     std::string defaultButton;
     int buttons;
     bool overTheWindow;
@@ -33,13 +34,13 @@ class BoxAnswer {
 
   explicit BoxAnswer(Qt::Key key);
   explicit BoxAnswer(QMessageBox::StandardButton button);
-  explicit BoxAnswer(std::function<void(QMessageBox&)> answer);
+  explicit BoxAnswer(std::function<void(QDialog&)> answer);
 
   // Nullopt if no box came up yet.
   const std::optional<Seen>& seen() const { return seen_; }
 
  private:
-  void look(const std::function<void(QMessageBox&)>& answer);
+  void look(const std::function<void(QDialog&)>& answer);
 
   QTimer timer_;
   std::optional<Seen> seen_;
@@ -50,7 +51,7 @@ std::string shownText(const QString& text);
 
 class WindowWorld {
  public:
-  WindowWorld();
+  explicit WindowWorld(const std::vector<std::filesystem::path>& bundles = {corvaneBundle()});
 
   // What the user's file dialogs will answer.
   std::vector<std::string> filesToOpen;

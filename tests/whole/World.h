@@ -10,7 +10,9 @@
 #include <utility>
 #include <variant>
 
+#include "DialogAnswerer.h"
 #include "Host.h"
+#include "OffscreenApplication.h"
 #include "Session.h"
 #include "SvgDrawing.h"
 
@@ -47,7 +49,7 @@ inline std::string squareOnPage(int scale = 1) {
          "</svg>\n";
 }
 
-// A host with the plug-in started, and a drawing open in it if one is given.
+// A host without a window, the plug-in started, and a drawing open in it if one is given.
 struct World {
   explicit World(const std::optional<std::string>& svg = std::nullopt) {
     complaint = session.loadPlugin(corvaneBundle());
@@ -70,8 +72,14 @@ struct World {
     preferences.put("Corvane", "sliderrealvalue", amount);
   }
 
+  struct Application {
+    Application() { ensureApplication(); }
+  };
+
+  Application application;
   Host host;
   Session session{host};
+  DialogAnswerer answerer{host};  // what the plug-in's dialogs say stands among the alerts
   std::string complaint;
   SvgDrawing drawing;
 };

@@ -1,0 +1,9 @@
+#include "RefusedPalette.h"
+
+namespace gallery {
+
+RefusedPalette::RefusedPalette() {
+  Create("Gallery Palette", qRVADM::kResizablePanel, false, 0);
+}
+
+}  // namespace gallery
