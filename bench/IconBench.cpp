@@ -20,11 +20,11 @@
 #include "HMX_AIPlugin.h"
 #include "HMX_AISuiteManager.h"
 #include "Host.h"
-#include "ToolkitPlugin.h"
 #include "Icons.h"
 #include "LoadPixmap.h"
 #include "SPBasic.h"
 #include "ScratchFolder.h"
+#include "ToolkitPlugin.h"
 
 namespace {
 

@@ -10,6 +10,7 @@
 #include "NumberSample.h"
 
 namespace qRVADM {
+
 // Some of the line's events, as a paste by the mouse, do not come by way of the field.
 class RVADM_NumericEdit::Line : public QLineEdit {
  protected:

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "FlagOfObject.h"
+#include "HandBackKeyboard.h"
 #include "ParseDimension.h"
 #include "QtManager.h"
 #include "RVADM_NumericEdit.h"
@@ -41,7 +42,8 @@ void RVADM_NumericEdit::EndEditing(QKeyEvent* event, bool onPalette) {
   QAbstractSpinBox::keyPressEvent(event);
   if (onPalette) {
     event->accept();
-    clearFocus();
+    HandBackKeyboard();
+    clearFocus();  // where there is nobody to take it
   }
   SetModified(modified);
   const bool keptEmpty = IsKeptEmpty();

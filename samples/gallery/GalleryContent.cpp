@@ -10,6 +10,7 @@
 #include "ListSamples.h"
 #include "LiveSamples.h"
 #include "Localize.h"
+#include "NumberSamples.h"
 #include "RVADM_Dialog.h"
 #include "RVADM_Label.h"
 #include "StateTable.h"
@@ -37,6 +38,7 @@ GalleryContent::GalleryContent(RVADM_Dialog* owner, std::function<void()> close)
   Enter(sections, std::make_unique<TextSamples>(owner));
   Enter(sections, std::make_unique<LineSamples>(owner));
   Enter(sections, std::make_unique<ListSamples>(owner));
+  Enter(sections, std::make_unique<NumberSamples>(owner));
   faults = Enter(sections, std::make_unique<FaultSamples>(owner, std::move(close)));
   notice = new RVADM_Label(owner, TextKey("What was used last is named here."), true);
 }

@@ -12,10 +12,12 @@ using namespace qRVADM;
 
 namespace {
 
-constexpr int kFieldWidth = 80;
+constexpr int kFieldWidth = 92;
 constexpr int kColumnGap = 16;
+constexpr int kRowGap = 4;
 constexpr double kMost = 10000;  // points
 constexpr Dimension kFirst = {10, kMillimeterUnits};
+constexpr double kFirstPercentage = 50;
 
 // How a field differs from a plain one.
 constexpr int kArrows = 1;
@@ -60,15 +62,12 @@ void NumberSamples::MakeRow(const Sample& sample) {
   field->SetUnits(sample.unit);
   field->SetKeepEmpty(has(kKeepsEmpty));
   field->SetShowArrows(has(kArrows));
-  const bool isLength = sample.unit != kPercentUnits && !has(kKeepsEmpty | kDisabled);
-  if (has(kKeepsEmpty)) {
-    field->SetText("", false, false);
-  } else {
-    field->SetValue(sample.unit, ConvertDimension(kFirst, sample.unit));
-  }
+  const bool isPercentage = sample.unit == kPercentUnits;
+  field->SetValue(sample.unit, isPercentage ? kFirstPercentage : ConvertDimension(kFirst, sample.unit));
+  if (has(kKeepsEmpty)) field->SetText("", false, false);
   field->SetWidth(kFieldWidth);
   field->SetEnabled(!has(kDisabled));
-  rows.push_back({label, field, isLength});
+  rows.push_back({label, field, !isPercentage && !has(kKeepsEmpty | kDisabled)});
 }
 
 void NumberSamples::LayoutItems() {
@@ -89,8 +88,8 @@ int NumberSamples::Column(std::size_t first, int left) {
     rows[i].label->MoveTo(left, top, false);
     rows[i].label->PlaceRightOf(rows[i].field, kAlignBase | kAlignTop, kDefaultGap);
     rows[i].field->MoveTo(widest - rows[i].label->GetWidth(), 0, true);
-    rows[i].field->AlignWith(rows[i].label, kCenterV);
-    top = rows[i].field->GetBottom() + kColumnGap / 4;
+    rows[i].label->AlignWith(rows[i].field, kCenterV);
+    top = rows[i].field->GetBottom() + kRowGap;
   }
   return rows[first].field->GetRight();
 }
@@ -105,9 +104,8 @@ void NumberSamples::Follow(const Row& changed) {
 }
 
 bool NumberSamples::OnItemNotify(RVADM_Item* item) {
-  const auto changed = std::find_if(rows.begin(), rows.end(), [item](const Row& row) {
-    return item == row.field || item == row.label;
-  });
+  const auto changed = std::find_if(
+      rows.begin(), rows.end(), [item](const Row& row) { return item == row.field || item == row.label; });
   if (changed != rows.end() && item == changed->field) Follow(*changed);
   return changed != rows.end() || item == inInches;
 }

@@ -3,11 +3,11 @@
 #include "CutOption.h"
 #include "DocumentChangedNotifier.h"
 #include "HMX_AISuiteManager.h"
-#include "ToolkitPlugin.h"
 #include "QtManager.h"
 #include "RestoreMarkTool.h"
 #include "SelectedLineTypesUpdateNotifier.h"
 #include "TextModules.h"
+#include "ToolkitPlugin.h"
 #include "UIColorSchemeNotifier.h"
 
 namespace Vandrell::Corvane {

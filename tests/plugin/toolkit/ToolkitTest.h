@@ -9,10 +9,10 @@
 #include "HMX_AIPlugin.h"
 #include "HMX_AISuiteManager.h"
 #include "Host.h"
-#include "ToolkitPlugin.h"
 #include "SPBasic.h"
 #include "ScratchFolder.h"
 #include "Theme.h"
+#include "ToolkitPlugin.h"
 
 // Lasts as long as the process, as does what the toolkit knows of it. Ids that its table has:
 //   1-99          "data<id>", in no folder
