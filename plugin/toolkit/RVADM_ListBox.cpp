@@ -133,7 +133,6 @@ void RVADM_ListBox::SetRowHeight(int height) {
 // --- mouse ---
 
 void RVADM_ListBox::mousePressEvent(QMouseEvent* event) {
-  doubleClicked = false;
   if (!multiSelect || DelayedSelection() == nullptr) return QListWidget::mousePressEvent(event);
   const QPointer<QWidget> alive(this);
   CommitSelection();
@@ -145,18 +144,14 @@ void RVADM_ListBox::mousePressEvent(QMouseEvent* event) {
 
 void RVADM_ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
   if (RVADM_DelayedSelectionModel* selection = DelayedSelection()) selection->discardPendingCommands();
-  doubleClicked = true;
   QListWidget::mouseDoubleClickEvent(event);
 }
 
-// Dragging does not sweep a selection, and the release that ends a double click leaves it whole.
+// Dragging does not sweep a selection.
 QItemSelectionModel::SelectionFlags RVADM_ListBox::selectionCommand(const QModelIndex& index,
                                                                     const QEvent* event) const {
-  const QEvent::Type type = event == nullptr ? QEvent::None : event->type();
-  const bool drags = type == QEvent::MouseMove && dragDropMode() == NoDragDrop;
-  const bool endsDoubleClick = type == QEvent::MouseButtonRelease && doubleClicked;
-  if (drags || endsDoubleClick) return QItemSelectionModel::NoUpdate;
-  return QListWidget::selectionCommand(index, event);
+  const bool drags = event != nullptr && event->type() == QEvent::MouseMove && dragDropMode() == NoDragDrop;
+  return drags ? QItemSelectionModel::NoUpdate : QListWidget::selectionCommand(index, event);
 }
 
 bool RVADM_ListBox::viewportEvent(QEvent* event) {

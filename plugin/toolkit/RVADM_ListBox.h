@@ -65,7 +65,6 @@ class RVADM_ListBox : public RVADM_QMetaObjectProxy<RVADM_ListBase, QListWidget>
   RVADM_Item* doubleClickItem = nullptr;
   QPointer<QWidget> doubleClickWidget;  // null when the item is gone
   bool multiSelect;
-  bool doubleClicked = false;  // the release to come ends a double click
 };
 
 }  // namespace qRVADM
