@@ -62,6 +62,7 @@ std::optional<int> fixedMetric(QStyle::PixelMetric metric) {
       return 5;
     case QStyle::PM_ToolBarIconSize:
     case QStyle::PM_SmallIconSize:
+    case QStyle::PM_ListViewIconSize:
       return 16;
     default:
       return std::nullopt;
