@@ -36,7 +36,7 @@ GalleryContent::GalleryContent(RVADM_Dialog* owner, std::function<void()> close)
     : dialog(owner), table(Enter(sections, std::make_unique<StateTable>(owner))) {
   Enter(sections, std::make_unique<LiveSamples>(owner));
   Enter(sections, std::make_unique<TextSamples>(owner));
-  Enter(sections, std::make_unique<LineSamples>(owner));
+  lines = Enter(sections, std::make_unique<LineSamples>(owner));
   Enter(sections, std::make_unique<ListSamples>(owner));
   Enter(sections, std::make_unique<NumberSamples>(owner));
   faults = Enter(sections, std::make_unique<FaultSamples>(owner, std::move(close)));
@@ -56,13 +56,15 @@ void GalleryContent::TakeFocus() {
 void GalleryContent::LayoutAll() {
   ADMRect content{};
   dialog->GetContentRect(&content);
-  Stack(content.left, content.top, {table, faults});
+  const std::vector<Section*> first = {table, lines, faults};
+  Stack(content.left, content.top, first);
   std::vector<Section*> others;
   for (const std::unique_ptr<Section>& section : sections) {
-    if (section.get() != table && section.get() != faults) others.push_back(section.get());
+    const bool isOther = std::find(first.begin(), first.end(), section.get()) == first.end();
+    if (isOther) others.push_back(section.get());
   }
   Stack(table->GetGroup()->GetRight() + dialog->GetMetrics().itemGap, content.top, others);
-  shown = {table, faults};
+  shown = first;
   shown.insert(shown.end(), others.begin(), others.end());
   LayoutNotice();
 }

@@ -15,6 +15,7 @@ class RVADM_Label;
 namespace gallery {
 
 class FaultSamples;
+class LineSamples;
 class Section;
 class StateTable;
 
@@ -46,7 +47,8 @@ class GalleryContent {
 
   qRVADM::RVADM_Dialog* const dialog;
   std::vector<std::unique_ptr<Section>> sections;
-  StateTable* table;  // these two are sections too
+  StateTable* table;  // these three are sections too
+  LineSamples* lines;
   FaultSamples* faults;
   std::vector<Section*> shown;
   qRVADM::RVADM_Label* notice;

@@ -12,7 +12,7 @@ using namespace qRVADM;
 
 namespace {
 
-constexpr int kFieldWidth = 92;
+constexpr int kFieldWidth = 102;
 constexpr int kColumnGap = 16;
 constexpr int kRowGap = 4;
 constexpr double kMost = 10000;  // points
