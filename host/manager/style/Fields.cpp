@@ -46,10 +46,13 @@ QPalette paletteOf(const QStyleOptionComboBox& option, const QWidget* widget) {
   return box != nullptr && box->lineEdit() != nullptr ? box->lineEdit()->palette() : option.palette;
 }
 
+// A list that is open looks pressed.
 void facePanel(const Paint& paint, const Tones& tones) {
   const Measures measures(&paint.option, paint.widget);
-  framed(paint.painter, paint.option.rect, measures.radius(),
-         reacting(tones.face, tones.faceText, paint.option), tones.outline);
+  QStyleOption shown = paint.option;
+  if ((shown.state & QStyle::State_On) != 0) shown.state |= QStyle::State_Sunken;
+  framed(paint.painter, paint.option.rect, measures.radius(), reacting(tones.face, tones.faceText, shown),
+         tones.outline);
   if (showsRing(paint.option)) {
     outlineRounded(paint.painter, paint.option.rect, measures.radius(), tones.ring, 2);
   }
