@@ -1,5 +1,7 @@
 // Whatever handle comes in, a call answers with a code.
 
+#include <type_traits>
+
 #include "AIAnnotator.h"
 #include "AIArtboard.h"
 #include "AICustomColor.h"
@@ -24,13 +26,9 @@ namespace {
 
 class HandleTest : public HostFixture {
  protected:
-  template <typename... Args>
-  static void expectRefused(AIErr (*entry)(Args...), int place) {
-    EXPECT_NE(entry(Args{}...), kNoErr) << "entry " << place;
-  }
-  template <typename Object, typename... Args>
-  static void expectRefused(Object* (*entry)(Args...), int place) {
-    EXPECT_EQ(entry(Args{}...), nullptr) << "entry " << place;
+  template <typename Result, typename... Args>
+  static void expectRefused(Result (*entry)(Args...), int place) {
+    EXPECT_EQ(entry(Args{}...) == Result{}, std::is_pointer_v<Result>) << "entry " << place;
   }
 
   // Calls every entry with zeros alone.
@@ -49,67 +47,61 @@ class HandleTest : public HostFixture {
 void HandleTest::callEverythingWithNull() {
   const auto& basic = *host.basic();
   expectAllRefuseNull("basic", basic.AcquireSuite, basic.ReleaseSuite, basic.AllocateBlock);
-  const auto& blocks = acquire<SPBlocksSuite>(kSPBlocksSuite, kSPBlocksSuiteVersion);
+  const auto& blocks = ACQUIRE(SPBlocksSuite);
   expectAllRefuseNull("blocks", blocks.AllocateBlock);
-  const auto& access = acquire<SPAccessSuite>(kSPAccessSuite, kSPAccessSuiteVersion);
+  const auto& access = ACQUIRE(SPAccessSuite);
   expectAllRefuseNull("access", access.GetPluginAccess);
-  const auto& plugins = acquire<SPPluginsSuite>(kSPPluginsSuite, kSPPluginsSuiteVersion);
+  const auto& plugins = ACQUIRE(SPPluginsSuite);
   expectAllRefuseNull("plug-ins", plugins.SetPluginName, plugins.GetPluginFileSpecification);
   expectAllRefuseNull("strings", strings.New, strings.Dispose, strings.GetLength, strings.GetBytes);
-  const auto& files = acquire<AIFilePathSuite>(kAIFilePathSuite, kAIFilePathSuiteVersion);
+  const auto& files = ACQUIRE(AIFilePathSuite);
   expectAllRefuseNull("file paths", files.New, files.Dispose, files.SetFromFileReference, files.GetFullPath);
-  const auto& folders = acquire<AIFoldersSuite>(kAIFoldersSuite, kAIFoldersSuiteVersion);
+  const auto& folders = ACQUIRE(AIFoldersSuite);
   expectAllRefuseNull("folders", folders.FindFolder);
-  const auto& notifiers = acquire<AINotifierSuite>(kAINotifierSuite, kAINotifierSuiteVersion);
+  const auto& notifiers = ACQUIRE(AINotifierSuite);
   expectAllRefuseNull("notifiers", notifiers.AddNotifier, notifiers.SetNotifierActive);
-  const auto& annotators = acquire<AIAnnotatorSuite>(kAIAnnotatorSuite, kAIAnnotatorSuiteVersion);
+  const auto& annotators = ACQUIRE(AIAnnotatorSuite);
   expectAllRefuseNull("annotators", annotators.AddAnnotator, annotators.SetAnnotatorActive);
-  const auto& tools = acquire<AIToolSuite>(kAIToolSuite, kAIToolSuiteVersion);
+  const auto& tools = ACQUIRE(AIToolSuite);
   expectAllRefuseNull("tools", tools.GetSelectedTool, tools.SetSelectedTool, tools.RestoreSelectedTool);
-  const auto& user = acquire<AIUserSuite>(kAIUserSuite, kAIUserSuiteVersion);
+  const auto& user = ACQUIRE(AIUserSuite);
   expectAllRefuseNull("user", user.MessageAlert, user.ErrorAlert, user.CreateCursorResourceMgr,
                       user.DisposeCursorResourceMgr);
-  const auto& menus = acquire<AIMenuSuite>(kAIMenuSuite, kAIMenuSuiteVersion);
+  const auto& menus = ACQUIRE(AIMenuSuite);
   expectAllRefuseNull("menus", menus.AddMenuItem, menus.AddMenuGroup, menus.AddMenuGroupAsSubMenu,
                       menus.CountMenuGroups, menus.GetNthMenuGroup, menus.GetMenuGroupName,
                       menus.UpdateMenuItemAutomatically, menus.CheckItem);
-  const auto& keys = acquire<AIPreferenceSuite>(kAIPreferenceSuite, kAIPreferenceSuiteVersion);
+  const auto& keys = ACQUIRE(AIPreferenceSuite);
   expectAllRefuseNull("preferences", keys.PreferenceExists, keys.GetBooleanPreference,
                       keys.PutBooleanPreference, keys.GetIntegerPreference, keys.PutIntegerPreference,
                       keys.GetRealPreference, keys.PutRealPreference, keys.GetStringPreference,
                       keys.PutStringPreference);
-  expectAllRefuseNull("art", art.NewArt, art.DisposeArt, art.ReorderArt, art.GetFirstArtOfLayer,
-                      art.GetArtFirstChild, art.GetArtSibling, art.GetArtParent, art.GetArtType,
-                      art.GetLayerOfArt, art.GetArtName, art.SetArtName, art.GetArtTransformBounds);
   expectAllRefuseNull("layers", layers.CountLayers, layers.GetNthLayer, layers.GetNextLayer,
                       layers.GetLayerByTitle, layers.InsertLayer, layers.DeleteLayer, layers.GetLayerTitle,
                       layers.SetLayerTitle, layers.GetLayerVisible, layers.SetLayerVisible,
                       layers.GetLayerPreview, layers.GetLayerEditable, layers.SetLayerEditable,
                       layers.GetLayerPrinted, layers.GetLayerSelected, layers.LayerHasArt,
                       layers.LayerHasSelectedArt, layers.GetLayerIsTemplate, layers.GetLayerDimPlacedImages);
-  expectAllRefuseNull("paths", paths.GetPathSegmentCount, paths.GetPathSegments, paths.SetPathSegments,
-                      paths.GetPathClosed, paths.SetPathClosed);
-  expectAllRefuseNull("styles", styles.GetPathStyle, styles.SetPathStyle);
-  const auto& colors = acquire<AICustomColorSuite>(kAICustomColorSuite, kAICustomColorSuiteVersion);
+  const auto& colors = ACQUIRE(AICustomColorSuite);
   expectAllRefuseNull("colours", colors.NewCustomColor, colors.GetCustomColor, colors.GetCustomColorName);
-  const auto& swatches = acquire<AISwatchListSuite>(kAISwatchListSuite, kAISwatchListSuiteVersion);
+  const auto& swatches = ACQUIRE(AISwatchListSuite);
   expectAllRefuseNull("swatches", swatches.CountSwatches, swatches.GetNthSwatch,
                       swatches.GetSwatchByNameAndType, swatches.GetAIColor, swatches.GetSwatchName,
                       swatches.SetSwatchName);
-  const auto& groups = acquire<AISwatchGroupSuite>(kAISwatchGroupSuite, kAISwatchGroupSuiteVersion);
+  const auto& groups = ACQUIRE(AISwatchGroupSuite);
   expectAllRefuseNull("swatch groups", groups.GetGroupByName, groups.SetGroupName, groups.AddSwatch);
-  const auto& boards = acquire<AIArtboardSuite>(kAIArtboardSuite, kAIArtboardSuiteVersion);
+  const auto& boards = ACQUIRE(AIArtboardSuite);
   expectAllRefuseNull("artboards", boards.GetArtboardList, boards.DisposeArtboardList, boards.GetCount,
                       boards.GetActive, boards.GetArtboardProperties, boards.DisposeArtboardProperties,
                       boards.GetPosition, boards.GetName);
-  const auto& documents = acquire<AIDocumentSuite>(kAIDocumentSuite, kAIDocumentSuiteVersion);
+  const auto& documents = ACQUIRE(AIDocumentSuite);
   expectAllRefuseNull("documents", documents.GetDocument, documents.GetDocumentSetup,
                       documents.GetDocumentOrigin, documents.GetDocumentScale);
-  const auto& views = acquire<AIDocumentViewSuite>(kAIDocumentViewSuite, kAIDocumentViewSuiteVersion);
+  const auto& views = ACQUIRE(AIDocumentViewSuite);
   expectAllRefuseNull("views", views.GetNthDocumentView, views.GetDocumentViewBounds,
                       views.GetDocumentViewZoom, views.SetDocumentViewZoom, views.SetDocumentViewCenter,
                       views.ArtworkPointToViewPoint);
-  const auto& hits = acquire<AIHitTestSuite>(kAIHitTestSuite, kAIHitTestSuiteVersion);
+  const auto& hits = ACQUIRE(AIHitTestSuite);
   expectAllRefuseNull("hit tests", hits.HitTest, hits.GetHitData, hits.GetHitArt);
 }
 
@@ -131,17 +123,15 @@ void HandleTest::expectUnknown(AIArtHandle handle) {
   AIPathSegment segment{};
   AIPathStyle style{};
   const AIUnicodeStringHandle name = text("name");
-  EXPECT_THAT(
-      codes(art.NewArt(kPathArt, kPlaceAbove, handle, &other), art.DisposeArt(handle),
-            art.ReorderArt(handle, kPlaceAboveAll, nullptr), art.GetArtFirstChild(handle, &other),
-            art.GetArtSibling(handle, &other), art.GetArtParent(handle, &other),
-            art.GetArtType(handle, &number), art.GetLayerOfArt(handle, &layer), art.GetArtName(handle, name),
-            art.SetArtName(handle, name), art.GetArtTransformBounds(handle, nullptr, 0, &bounds),
-            paths.GetPathSegmentCount(handle, &number), paths.GetPathSegments(handle, 0, 1, &segment),
-            paths.SetPathSegments(handle, 0, 1, &segment), paths.GetPathClosed(handle, &flag),
-            paths.SetPathClosed(handle, 1), styles.GetPathStyle(handle, &style),
-            styles.SetPathStyle(handle, &style)),
-      testing::Each(kBadParameterErr));
+  EXPECT_TRUE(each(
+      kBadParameterErr, art.NewArt(kPathArt, kPlaceAbove, handle, &other), art.DisposeArt(handle),
+      art.ReorderArt(handle, kPlaceAboveAll, nullptr), art.GetArtFirstChild(handle, &other),
+      art.GetArtSibling(handle, &other), art.GetArtParent(handle, &other), art.GetArtType(handle, &number),
+      art.GetLayerOfArt(handle, &layer), art.GetArtName(handle, name), art.SetArtName(handle, name),
+      art.GetArtTransformBounds(handle, nullptr, 0, &bounds), paths.GetPathSegmentCount(handle, &number),
+      paths.GetPathSegments(handle, 0, 1, &segment), paths.SetPathSegments(handle, 0, 1, &segment),
+      paths.GetPathClosed(handle, &flag), paths.SetPathClosed(handle, 1), styles.GetPathStyle(handle, &style),
+      styles.SetPathStyle(handle, &style)));
   EXPECT_EQ(other, nullptr);
 }
 
@@ -160,6 +150,7 @@ TEST_F(HandleTest, OfDeletedArtAndLayersAreUnknown) {
 }
 
 TEST_F(HandleTest, OfOtherKindsAndOfNothingAreUnknown) {
+  expectUnknown(nullptr);
   expectUnknown(reinterpret_cast<AIArtHandle>(topLayer()));
   expectUnknown(reinterpret_cast<AIArtHandle>(this));
   expectUnknown(host::makeHandle<AIArtHandle>(host::HandleKind::Art, document->serial(), 4711));
@@ -190,24 +181,13 @@ TEST_F(HandleTest, OfAnotherOpenDocumentWorkThere) {
   EXPECT_EQ(art.ReorderArt(path, kPlaceAbove, elsewhere), kBadParameterErr);
 }
 
-TEST_F(HandleTest, OfDisposedOfObjectsAreStale) {
+TEST_F(HandleTest, OfDisposedOfStringsAreStale) {
   const AIUnicodeStringHandle string = text("once");
   ASSERT_EQ(strings.Dispose(string), kNoErr);
   text("a new string that could have taken the place");
   std::size_t length = 0;
-  EXPECT_THAT(codes(strings.GetLength(string, &length), strings.Dispose(string),
-                    layers.SetLayerTitle(topLayer(), string)),
-              testing::Each(kBadParameterErr));
-  const auto& boards = acquire<AIArtboardSuite>(kAIArtboardSuite, kAIArtboardSuiteVersion);
-  AIArtboardListHandle list = nullptr;
-  AIArtboardPropertiesHandle properties = nullptr;
-  ASSERT_EQ(boards.GetArtboardList(&list), kNoErr);
-  ASSERT_EQ(boards.GetArtboardProperties(list, 0, &properties), kNoErr);
-  ASSERT_EQ(boards.DisposeArtboardList(list), kNoErr);
-  std::int32_t count = 0;
-  EXPECT_EQ(boards.GetCount(list, &count), kBadParameterErr);
-  AIRealRect position{};
-  EXPECT_EQ(boards.GetPosition(properties, &position), kNoErr);  // a copy of its own
+  EXPECT_TRUE(each(kBadParameterErr, strings.GetLength(string, &length), strings.Dispose(string),
+                   layers.SetLayerTitle(topLayer(), string)));
 }
 
 }  // namespace

@@ -24,29 +24,20 @@ class HitTestSuiteTest : public HostFixture {
     return found;
   }
 
-  const AIHitTestSuite& hits = acquire<AIHitTestSuite>(kAIHitTestSuite, kAIHitTestSuiteVersion);
+  const AIHitTestSuite& hits = ACQUIRE(AIHitTestSuite);
 };
 
-TEST_F(HitTestSuiteTest, FollowsTheDocument) {
-  const AIArtHandle square = newSquare({0, 0}, 10);
+TEST_F(HitTestSuiteTest, TestsTheDocumentOrOneArtWithWhatItHolds) {
+  const AIArtHandle group = newArt(kGroupArt), inner = newSquare({0, 0}, 10), cover = newSquare({0, 0}, 10);
   EXPECT_FALSE(isHit({5, 5}));  // unpainted
-  fill(square);
-  EXPECT_TRUE(isHit({5, 5}));
-  EXPECT_EQ(artAt({5, 5}), square);
-  EXPECT_EQ(artAt({15, 5}), nullptr);
-  ASSERT_EQ(layers.SetLayerVisible(topLayer(), 0), kNoErr);
-  EXPECT_FALSE(isHit({5, 5}));
-}
-
-TEST_F(HitTestSuiteTest, TestsOneArtWithWhatItHolds) {
-  const AIArtHandle group = newArt(kGroupArt);
-  const AIArtHandle inner = newSquare({0, 0}, 10);
-  const AIArtHandle cover = newSquare({0, 0}, 10);
   for (const AIArtHandle square : {inner, cover}) fill(square);
   ASSERT_EQ(art.ReorderArt(inner, kPlaceInsideOnTop, group), kNoErr);
   EXPECT_EQ(artAt({5, 5}), cover);
+  EXPECT_EQ(artAt({15, 5}), nullptr);
   EXPECT_EQ(artAt({5, 5}, group), inner);
   EXPECT_FALSE(isHit({15, 5}, group));
+  ASSERT_EQ(layers.SetLayerVisible(topLayer(), 0), kNoErr);
+  EXPECT_FALSE(isHit({5, 5}));
 }
 
 TEST_F(HitTestSuiteTest, OnlyTheLatestReferenceIsGood) {

@@ -17,6 +17,9 @@
 #include "Host.h"
 #include "SPBasic.h"
 
+// The suite of this name in the version of its header.
+#define ACQUIRE(Suite) acquire<Suite>(k##Suite, k##Suite##Version)
+
 class HostFixture : public testing::Test {
  protected:
   HostFixture() {
@@ -44,10 +47,17 @@ class HostFixture : public testing::Test {
     return *static_cast<const Suite*>(table);
   }
 
-  // What calls answered that do not depend on each other.
+  // Whether calls all answered the same; they are made in no certain order.
   template <typename... Codes>
-  static std::vector<AIErr> codes(Codes... all) {
-    return {all...};
+  static testing::AssertionResult each(AIErr expected, Codes... answers) {
+    int place = 0;
+    auto result = testing::AssertionSuccess();
+    const auto check = [&](AIErr answer) {
+      if (answer != expected) result = testing::AssertionFailure() << "call " << place << ": " << answer;
+      ++place;
+    };
+    (check(answers), ...);
+    return result;
   }
 
   AIUnicodeStringHandle text(std::string_view bytes = {}) {
@@ -75,12 +85,11 @@ class HostFixture : public testing::Test {
   // A closed square with its lower left corner at the given point.
   AIArtHandle newSquare(AIRealPoint corner, AIReal side) {
     const AIArtHandle square = newArt(kPathArt);
-    const AIRealPoint points[] = {{corner.x, corner.y},
-                                  {corner.x + side, corner.y},
-                                  {corner.x + side, corner.y + side},
-                                  {corner.x, corner.y + side}};
     AIPathSegment segments[4];
-    for (int i = 0; i < 4; ++i) segments[i] = {points[i], points[i], points[i], 1};
+    for (int i = 0; i < 4; ++i) {
+      const AIRealPoint point{corner.x + (i == 1 || i == 2 ? side : 0), corner.y + (i > 1 ? side : 0)};
+      segments[i] = {point, point, point, 1};
+    }
     EXPECT_EQ(paths.SetPathSegments(square, 0, 4, segments), kNoErr);
     EXPECT_EQ(paths.SetPathClosed(square, 1), kNoErr);
     return square;
@@ -95,10 +104,9 @@ class HostFixture : public testing::Test {
   host::Host host;
   SPPluginRef plugin = nullptr;
   std::shared_ptr<host::Document> document;
-  const AIUnicodeStringSuite& strings =
-      acquire<AIUnicodeStringSuite>(kAIUnicodeStringSuite, kAIUnicodeStringSuiteVersion);
-  const AIArtSuite& art = acquire<AIArtSuite>(kAIArtSuite, kAIArtSuiteVersion);
-  const AILayerSuite& layers = acquire<AILayerSuite>(kAILayerSuite, kAILayerSuiteVersion);
-  const AIPathSuite& paths = acquire<AIPathSuite>(kAIPathSuite, kAIPathSuiteVersion);
-  const AIPathStyleSuite& styles = acquire<AIPathStyleSuite>(kAIPathStyleSuite, kAIPathStyleSuiteVersion);
+  const AIUnicodeStringSuite& strings = ACQUIRE(AIUnicodeStringSuite);
+  const AIArtSuite& art = ACQUIRE(AIArtSuite);
+  const AILayerSuite& layers = ACQUIRE(AILayerSuite);
+  const AIPathSuite& paths = ACQUIRE(AIPathSuite);
+  const AIPathStyleSuite& styles = ACQUIRE(AIPathStyleSuite);
 };

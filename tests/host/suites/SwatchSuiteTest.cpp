@@ -1,4 +1,5 @@
 #include <cmath>
+#include <tuple>
 
 #include "AICustomColor.h"
 #include "AISwatchGroup.h"
@@ -29,12 +30,9 @@ class SwatchSuiteTest : public HostFixture {
     return read(name);
   }
 
-  const AICustomColorSuite& colors =
-      acquire<AICustomColorSuite>(kAICustomColorSuite, kAICustomColorSuiteVersion);
-  const AISwatchListSuite& swatches =
-      acquire<AISwatchListSuite>(kAISwatchListSuite, kAISwatchListSuiteVersion);
-  const AISwatchGroupSuite& groups =
-      acquire<AISwatchGroupSuite>(kAISwatchGroupSuite, kAISwatchGroupSuiteVersion);
+  const AICustomColorSuite& colors = ACQUIRE(AICustomColorSuite);
+  const AISwatchListSuite& swatches = ACQUIRE(AISwatchListSuite);
+  const AISwatchGroupSuite& groups = ACQUIRE(AISwatchGroupSuite);
 };
 
 TEST_F(SwatchSuiteTest, CustomColoursHaveNamesOfTheirOwn) {
@@ -42,35 +40,17 @@ TEST_F(SwatchSuiteTest, CustomColoursHaveNamesOfTheirOwn) {
   const AICustomColor definition = magenta();
   AICustomColorHandle second = nullptr;
   EXPECT_EQ(colors.NewCustomColor(&definition, text("Cut"), &second), kBadParameterErr);
+  AICustomColor noNumber = definition, noKind = definition;
+  noNumber.c.f.black = std::nan("");
+  noKind.kind = static_cast<AICustomColorTag>(3);
+  EXPECT_TRUE(each(kBadParameterErr, colors.NewCustomColor(&noNumber, text("a"), &second),
+                   colors.NewCustomColor(&noKind, text("a"), &second)));
   EXPECT_EQ(second, nullptr);
   EXPECT_EQ(colors.NewCustomColor(&definition, text("cut"), &second), kNoErr);
   AICustomColor kept{};
   EXPECT_EQ(colors.GetCustomColor(cut.c.c.color, &kept), kNoErr);
   EXPECT_EQ(kept.c.f.magenta, 1);
   EXPECT_EQ(kept.flag, kCustomSpotColor);
-}
-
-TEST_F(SwatchSuiteTest, ACustomColourIsValidInItsOwnDocumentWhileItIsThere) {
-  const AICustomColorHandle cut = customColor("Cut").c.c.color;
-  const auto isValid = [&](AICustomColorHandle color) {
-    AIBoolean valid = 7;
-    EXPECT_EQ(colors.IsValid(color, &valid), kNoErr);
-    return valid;
-  };
-  EXPECT_EQ(isValid(cut), 1);
-  EXPECT_EQ(isValid(nullptr), 0);
-  host.documents().open(makeDocument(), "other");
-  EXPECT_EQ(isValid(cut), 0);
-  EXPECT_EQ(colors.IsValid(cut, nullptr), kBadParameterErr);
-}
-
-TEST_F(SwatchSuiteTest, CustomColoursNeedADefinitionThatCanBeShown) {
-  AICustomColor noNumber = magenta(), noKind = magenta();
-  noNumber.c.f.black = std::nan("");
-  noKind.kind = static_cast<AICustomColorTag>(3);
-  AICustomColorHandle color = nullptr;
-  EXPECT_EQ(colors.NewCustomColor(&noNumber, text("a"), &color), kBadParameterErr);
-  EXPECT_EQ(colors.NewCustomColor(&noKind, text("a"), &color), kBadParameterErr);
 }
 
 TEST_F(SwatchSuiteTest, NewGroupsGoWhereTold) {
@@ -86,33 +66,25 @@ TEST_F(SwatchSuiteTest, NewGroupsGoWhereTold) {
   EXPECT_EQ(groups.NewGroup(nullptr, 0, -2), nullptr);
 }
 
-TEST_F(SwatchSuiteTest, GroupsAreFoundByNameAndFilledInOrder) {
+TEST_F(SwatchSuiteTest, GroupsAreFilledInOrderAndSearchedByNameAndKind) {
   const AISwatchGroupRef group = groups.NewGroup(nullptr, kAISwatchGroupKindPlain, -1);
-  EXPECT_EQ(groups.GetGroupByName(nullptr, text("Cut Line Types")), nullptr);
-  EXPECT_EQ(groups.SetGroupName(group, text("Cut Line Types")), kNoErr);
-  EXPECT_EQ(groups.GetGroupByName(nullptr, text("Cut Line Types")), group);
-  const AIColor cut = customColor("Cut"), grey{};
-  const AISwatchRef first = groups.AddSwatch(group, &cut, 0);
-  const AISwatchRef second = groups.AddSwatch(group, &grey, 0);
-  EXPECT_EQ(nameOf(first), "Cut");
-  EXPECT_EQ(nameOf(second), "");
-  const AISwatchRef expected[] = {nullptr, first, second, nullptr};
-  for (std::int32_t i = -1; i < 3; ++i) EXPECT_EQ(swatches.GetNthSwatch(nullptr, i), expected[i + 1]) << i;
-}
-
-TEST_F(SwatchSuiteTest, SwatchesAreFoundByNameAndKind) {
-  const AISwatchGroupRef group = groups.NewGroup(nullptr, 0, -1);
+  EXPECT_EQ(groups.GetGroupByName(nullptr, text("Lines")), nullptr);
+  EXPECT_EQ(groups.SetGroupName(group, text("Lines")), kNoErr);
+  EXPECT_EQ(groups.GetGroupByName(nullptr, text("Lines")), group);
   const AIColor grey{}, color = customColor("Cut");
-  const AISwatchRef plain = groups.AddSwatch(group, &grey, 0);
+  const AISwatchRef plain = groups.AddSwatch(group, &grey, 0), custom = groups.AddSwatch(group, &color, 0);
+  EXPECT_EQ(nameOf(plain), "");
+  EXPECT_EQ(nameOf(custom), "Cut");
   ASSERT_EQ(swatches.SetSwatchName(plain, text("Cut")), kNoErr);
-  const AISwatchRef custom = groups.AddSwatch(group, &color, 0);
-  EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text("Cut"), kCustomColor), custom);
-  EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text("Cut"), kGrayColor), plain);
-  EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text("Cut"), kFourColor), nullptr);
-  EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text("cut"), kCustomColor), nullptr);
-  AIColor found{};
-  EXPECT_EQ(swatches.GetAIColor(custom, &found), kNoErr);
-  EXPECT_EQ(found.c.c.color, color.c.c.color);
+  const AISwatchRef expected[] = {nullptr, plain, custom, nullptr};
+  for (std::int32_t i = -1; i < 3; ++i) EXPECT_EQ(swatches.GetNthSwatch(nullptr, i), expected[i + 1]) << i;
+  const std::tuple<const char*, AIColorTag, AISwatchRef> searches[] = {{"Cut", kCustomColor, custom},
+                                                                       {"Cut", kGrayColor, plain},
+                                                                       {"Cut", kFourColor, nullptr},
+                                                                       {"cut", kCustomColor, nullptr}};
+  for (const auto& [name, kind, found] : searches) {
+    EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text(name), kind), found) << name << kind;
+  }
 }
 
 TEST_F(SwatchSuiteTest, OnlyTheListOfTheDocumentIsKnown) {
@@ -126,15 +98,21 @@ TEST_F(SwatchSuiteTest, OnlyTheListOfTheDocumentIsKnown) {
   EXPECT_EQ(groups.NewGroup(nullptr, 0, -1), nullptr);
 }
 
-TEST_F(SwatchSuiteTest, AddSwatchRefusesColoursOfOtherDocuments) {
-  const AIColor color = customColor("Cut");
-  const auto other = makeDocument();
-  host.documents().open(other, "other");
+TEST_F(SwatchSuiteTest, ACustomColourIsValidInItsOwnDocumentAlone) {
+  const AIColor color = customColor("Cut"), grey{};
+  const auto isValid = [&](AICustomColorHandle asked) {
+    AIBoolean valid = 7;
+    EXPECT_EQ(colors.IsValid(asked, &valid), kNoErr);
+    return valid;
+  };
+  EXPECT_EQ(isValid(color.c.c.color), 1);
+  EXPECT_EQ(isValid(nullptr), 0);
+  host.documents().open(makeDocument(), "other");
+  EXPECT_EQ(isValid(color.c.c.color), 0);
+  EXPECT_EQ(colors.IsValid(color.c.c.color, nullptr), kBadParameterErr);
   const AISwatchGroupRef group = groups.NewGroup(nullptr, 0, -1);
   EXPECT_EQ(groups.AddSwatch(group, &color, 0), nullptr);
-  const AIColor grey{};
-  EXPECT_EQ(groups.AddSwatch(group, &grey, 1), nullptr);
-  EXPECT_NE(groups.AddSwatch(group, &grey, 0), nullptr);
+  EXPECT_EQ(groups.AddSwatch(group, &grey, 1), nullptr) << "behind the end";
 }
 
 }  // namespace

@@ -83,16 +83,5 @@ TEST(EdgePositions, LeaveOutTheSidesTheArtboardIsTooNarrowFor) {
   }
 }
 
-TEST(EdgePositions, HandOnWhatTheHostRefuses) {
-  for (const char* rule : {"AI Artboard Suite:GetArtboardList", "AI Artboard Suite:GetPosition"}) {
-    Drawing drawing(kA4);
-    ASSERT_EQ(drawing.host.refusal().add(rule), "");
-    PositionList positions;
-    std::int32_t failures = 0;
-    EXPECT_EQ(EdgePositions(17, positions, failures), kSPCanceledByHostError) << rule;
-    EXPECT_TRUE(positions.empty());
-  }
-}
-
 }  // namespace
 }  // namespace Vandrell::Corvane

@@ -1,7 +1,6 @@
 #include "PlaceRegmarks.h"
 
 #include <cmath>
-#include <functional>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -52,15 +51,13 @@ TEST(CornerMarks, FrameTheArtAsFarAsTheyFitOnTheArtboard) {
   }
 }
 
-struct BoundsCase {
-  const char* what;
-  std::function<void(Drawing&)> prepare;
-  AIErr result;
-  AIRealRect bounds;
-};
-
 TEST(ArtBounds, CountEveryLayerButTheMarks) {
-  const BoundsCase cases[] = {
+  const struct {
+    const char* what;
+    void (*prepare)(Drawing&);
+    AIErr result;
+    AIRealRect bounds;
+  } cases[] = {
       {"nothing", [](Drawing&) {}, kNoArtBoundsErr, {}},
       {"a flat shape alone", [](Drawing& d) { d.addRectangle(1, 2, 3, 2); }, kNoArtBoundsErr, {}},
       {"a path without paint",
@@ -94,7 +91,7 @@ TEST(ArtBounds, CountEveryLayerButTheMarks) {
        kSPCanceledByHostError,
        {}},
   };
-  for (const BoundsCase& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(c.what);
     Drawing drawing;
     c.prepare(drawing);
@@ -124,25 +121,28 @@ TEST(PlaceRegmarks, ReplacesTheMarksOfAnEarlierPlacement) {
   EXPECT_EQ(drawing.marks().size(), 5U);
 }
 
-TEST(PlaceRegmarks, ClearsTheOldMarksEvenIfThereIsNoArt) {
-  for (const std::uint32_t action : {kCornerMarks, kAutoMarks}) {
+TEST(PlaceRegmarks, HandsOnWhatTheHostRefuses) {
+  const struct {
+    const char* rule;
+    std::uint32_t action;
+    PositionList marks;
+  } cases[] = {{"AI Art Suite:NewArt:3", kCornerMarks, {{373.46, 90}, {90, 510}}},
+               {"AI Document Suite:GetDocumentSetup", kAutoMarks, {}},
+               {"AI Document Suite:GetDocumentOrigin", kAutoMarks, {}},
+               {"AI Document View Suite:GetDocumentViewBounds", kAutoMarks, {}},
+               {"AI Document View Suite:SetDocumentViewZoom", kAutoMarks, {}},
+               {"AI Artboard Suite:GetArtboardList", kEdgeRing, {}},
+               {"AI Artboard Suite:GetPosition", kEdgeRing, {}}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.rule);
     Drawing drawing;
-    drawing.addLayer("Regmark");
-    drawing.addRectangle(0, 0, 10, 10);
-    std::int32_t failures = 99;
-    EXPECT_EQ(Place(action, 10, failures), kNoArtBoundsErr);
-    EXPECT_EQ(failures, 0);
-    EXPECT_EQ(drawing.layerTitles(), std::vector<std::string>{"Artwork"});
+    drawing.addRectangle(100, 100, 400, 500);
+    drawing.view().setZoom(20);
+    ASSERT_EQ(drawing.host.refusal().add(c.rule), "");
+    std::int32_t failures = 0;
+    EXPECT_EQ(Place(c.action, 10, failures), kSPCanceledByHostError);
+    ExpectPositions(drawing.marks(), c.marks);
   }
-}
-
-TEST(PlaceRegmarks, StopsAtTheFirstMarkThatCannotBeDrawn) {
-  Drawing drawing;
-  drawing.addRectangle(100, 100, 400, 500);
-  ASSERT_EQ(drawing.host.refusal().add("AI Art Suite:NewArt:3"), "");
-  std::int32_t failures = 0;
-  EXPECT_EQ(Place(kCornerMarks, 10, failures), kSPCanceledByHostError);
-  ExpectPositions(drawing.marks(), {{373.46, 90}, {90, 510}});
 }
 
 // Sizes that only a preference file can hold.
@@ -166,32 +166,25 @@ TEST(PlaceRegmarks, EndsForSizesThatMakeNoSense) {
   }
 }
 
-// Calls of the host that placing makes in a small drawing, before any is refused.
-std::uint64_t CallsOf(std::uint32_t action) {
-  Drawing drawing({0, 200, 200, 0});
-  drawing.addRectangle(90, 90, 110, 110);
-  const std::uint64_t before = drawing.host.refusal().callCount();
-  std::int32_t failures = 0;
-  Place(action, 10, failures);
-  return drawing.host.refusal().callCount() - before;
-}
-
 // Whatever call the host refuses, the next placement finds nothing broken. What lies between the first calls
 // and the last is point tests.
 TEST(PlaceRegmarks, SurvivesTheRefusalOfAnyCall) {
   constexpr std::uint64_t kEnds = 40;
   for (const std::uint32_t action : {kCornerMarks, kAutoMarks, kEdgeRing}) {
-    const std::uint64_t calls = CallsOf(action);
-    for (std::uint64_t call = 1; call <= calls;
+    std::uint64_t calls = 1;  // counted in round 0, where none is refused
+    for (std::uint64_t call = 0; call <= calls;
          call += call == kEnds && calls > 2 * kEnds ? calls - 2 * kEnds : 1) {
       SCOPED_TRACE(testing::Message() << "action " << action << ", call " << call << " of " << calls);
       Drawing drawing({0, 200, 200, 0});
       drawing.addRectangle(90, 90, 110, 110);
       std::int32_t failures = 0;
-      drawing.host.refusal().armNth(call);
+      host::Refusal& refusal = drawing.host.refusal();
+      const std::uint64_t before = refusal.callCount();
+      if (call > 0) refusal.armNth(call);
       Place(action, 10, failures);
-      EXPECT_EQ(drawing.host.refusal().refused().size(), 1U);
-      drawing.host.refusal().clear();
+      if (call == 0) calls = refusal.callCount() - before;
+      EXPECT_EQ(refusal.refused().size(), call == 0 ? 0U : 1U);
+      refusal.clear();
       EXPECT_EQ(Place(action, 10, failures), kNoErr);
       EXPECT_FALSE(drawing.marks().empty());
     }

@@ -118,16 +118,6 @@ TEST_F(TableHead, EachArtboardHasAStripOutsideOfItsLeftEdge) {
   EXPECT_THAT(Drawn(), testing::Contains(Pixels({-184, -150, -180, 50}))) << "strips grow with the view";
 }
 
-TEST_F(TableHead, TheOldStripsLeaveTheScreen) {
-  annotator->Update(Open(kThree));
-  for (const bool anyLeft : {true, false}) {
-    invalid.clear();
-    annotator->Update(nullptr);
-    EXPECT_EQ(invalid, anyLeft ? (std::vector<Pixels>{kFirst, kSecond, kThird}) : std::vector<Pixels>());
-    EXPECT_THAT(Drawn(), IsEmpty());
-  }
-}
-
 TEST_F(TableHead, ItFollowsTheDocuments) {
   const AIDocumentHandle document = Open({kThree[0]});
   for (const char* name :

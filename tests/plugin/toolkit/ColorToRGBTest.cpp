@@ -94,24 +94,5 @@ TEST_F(ColorToRGBTest, FailuresLeaveTheColorAlone) {
   }
 }
 
-// Where a colour can't be printed is only to be seen with a profile: here the round trip itself is told
-// by refusing its steps.
-TEST_F(ColorToRGBTest, RGBGoesThroughInksForTheGamut) {
-  const std::pair<AIColor, int> cases[] = {{Paint(kThreeColor, 1, 0.5, 0), 2},
-                                           {CustomPaint(Definition(kCustomThreeColor, 1, 0.5, 0), 0.5), 2},
-                                           {CustomPaint(Definition(kCustomFourColor, 0, 0.5, 1, 0)), 1},
-                                           {Paint(kNoneColor), 0}};
-  for (const auto& [paint, conversions] : cases) {
-    for (int call = 1; call <= conversions + 1; ++call) {
-      ASSERT_EQ(host.refusal().add("AI Color Conversion Suite:ConvertSample:" + std::to_string(call)), "");
-      AIRGBColor shown = kUntouched;
-      const AIErr error = ColorToGamutRGBColor(paint, shown);
-      EXPECT_EQ(error != kNoErr, call <= conversions) << paint.kind << ", call " << call;
-      host.refusal().clear();
-      ExpectComponents(shown, error != kNoErr ? kUntouched : Shown(paint), std::to_string(paint.kind), 2);
-    }
-  }
-}
-
 }  // namespace
 }  // namespace qRVADM

@@ -1,11 +1,9 @@
 // Drawing by whole pixels, on screens of one and of two pixels a point.
-#include <QItemDelegate>
 #include <QPainter>
 #include <QPointer>
 
 #include "DialogWorld.h"
 #include "IADMDrawer.h"
-#include "ItemDelegateDefaultPainter.h"
 #include "Pixels.h"
 #include "RVADM_CustomItem.h"
 
@@ -110,34 +108,6 @@ TEST_F(DrawerTest, TextStaysInItsBox) {
   const QImage elided = drawn("WWWWWWWWWWWWWWWW");
   EXPECT_FALSE(elided == blank);
   EXPECT_TRUE(elided.copy(30, 0, 10, 20) == blank.copy(30, 0, 10, 20));
-}
-
-// Whose rows are drawn by their entries.
-class RowDelegate : public QItemDelegate {
- public:
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    ItemDelegateDefaultPainter<QItemDelegate> ordinary(*this, option, index);
-    IADMDrawer drawer(nullptr, painter, &ordinary, {0, 0, 40, 20});
-    const IADMDrawer copy(drawer);
-    drawer.DrawDefault();
-    EXPECT_EQ(IADMDrawer(copy).GetPainter(), painter);
-  }
-  void drawDisplay(QPainter* painter, const QStyleOptionViewItem&, const QRect&,
-                   const QString&) const override {
-    EXPECT_FALSE(painter->testRenderHint(QPainter::Antialiasing));
-    ++painted;
-  }
-  mutable int painted = 0;
-};
-
-TEST_F(DrawerTest, RowsHaveTheirOrdinaryLookToo) {
-  QImage image(40, 20, QImage::Format_ARGB32);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const RowDelegate delegate;
-  delegate.paint(&painter, {}, {});
-  EXPECT_EQ(delegate.painted, 1);
-  EXPECT_TRUE(painter.testRenderHint(QPainter::Antialiasing));
 }
 
 }  // namespace

@@ -135,17 +135,6 @@ TEST_F(ListTest, ClickOnAMultipleSelectionWaitsForADoubleClick) {
   }
 }
 
-TEST_F(ListTest, DelayLastsALittleLongerThanADoubleClickFromTheLastPress) {
-  OpenWithSelection({1, 2, 3});
-  ClickRow(2);
-  QTest::qWait(kDoubleClickMilliseconds / 2);
-  list->selectionModel()->metaObject()->invokeMethod(list->selectionModel(), "beginPendingCommands");
-  QElapsedTimer sinceBegin;
-  sinceBegin.start();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return Shown() == Rows{2}; }));
-  EXPECT_GE(sinceBegin.elapsed(), (kDoubleClickMilliseconds + 25) * 0.95) << "as coarse as such timers are";
-}
-
 TEST_F(ListTest, SingleSelectionAndKeysAreNotDelayed) {
   Open(false);
   dialog->react = [this] { EXPECT_EQ(dialog->later, 0) << "comes from the event loop"; };
@@ -187,10 +176,7 @@ TEST_F(ListTest, RowsMayGoFromInsideTheirHandlers) {
   QApplication::setDoubleClickInterval(1);
   const std::pair<const char*, std::function<void()>> removals[] = {
       {"the row", [this] { delete list->GetEntry(2); }},
-      {"the rows above",
-       [this] {
-         for (int i = 0; i < 2; ++i) delete list->GetEntry(0);
-       }},
+      {"the rows above", [this] { delete list->GetEntry(0), delete list->GetEntry(0); }},
       {"what is selected",
        [this] {
          while (RVADM_ListEntry* entry = list->GetSelectedEntry(0)) delete entry;
@@ -233,6 +219,7 @@ TEST_F(ListTest, TheListMayGoFromItsLaterNotificationAndFromATip) {
   dialog->reactLater = [this] { delete list; };
   Press(*dialog, InRow(1));
   WaitForDelay();
+  Release(*dialog, {60, 30});
   EXPECT_FALSE(alive);
   Open(true);
   rows[2]->tracked = [this] { delete list; };
@@ -251,9 +238,7 @@ TEST_F(ListTest, RowsAreFoundCountedAndRead) {
   EXPECT_EQ(list->GetActiveEntry(), rows[2]);
   list->ClearSelection();
   EXPECT_EQ(list->GetActiveEntry(), nullptr);
-  EXPECT_NE(list->currentItem(), nullptr);
   list->addItem("foreign");
-  EXPECT_EQ(list->GetEntry(6), nullptr);
   EXPECT_EQ(list->GetEntry(7), nullptr);
   EXPECT_EQ(list->FindEntry("foreign"), nullptr);
   auto* custom = new RVADM_ListEntry(list, "Custom", true);
@@ -267,10 +252,6 @@ TEST_F(ListTest, RowsAreFoundCountedAndRead) {
   RVADM_ListEntry empty(list, nullptr, true);
   empty.GetText(text, sizeof text, false);
   EXPECT_STREQ(text, "");
-  empty.SetText("\xC3\xA4", false);
-  empty.GetText(text, sizeof text, false);
-  EXPECT_STREQ(text, "\xC3\xA4");
-  EXPECT_EQ(empty.data, 0);
   EXPECT_TRUE(dialog->notified.empty()) << "nothing of this came from the user";
 }
 
@@ -286,25 +267,6 @@ TEST_F(ListTest, BoxesAreTickedByTheMouse) {
     EXPECT_EQ(rows[1]->IsChecked(), !checked);
     EXPECT_EQ(rows[1]->last.action, 0) << "the click ends with the box";
     EXPECT_TRUE(Shown().empty());
-  }
-}
-
-TEST_F(ListTest, MeasuresFollowRowsMarginsAndScrollBar) {
-  RVADM_ListBox& measured = Open(false);
-  const QMargins margins = measured.contentsMargins();
-  const int frame = margins.top() + margins.bottom();
-  EXPECT_EQ(measured.GetHeightForRows(0), frame);
-  EXPECT_EQ(measured.GetHeightForRows(3), 60 + frame);
-  measured.SetRowHeight(0);
-  EXPECT_EQ(measured.GetHeightForRows(2), 2 * measured.visualItemRect(rows[0]).height() + frame);
-  measured.Clear();
-  EXPECT_GE(measured.GetHeightForRows(2), frame);
-  for (const auto policy : {Qt::ScrollBarAlwaysOn, Qt::ScrollBarAlwaysOff}) {
-    measured.setVerticalScrollBarPolicy(policy);
-    measured.SetContentWidth(120);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(measured.viewport()->width(), 120);
-    EXPECT_EQ(measured.GetHeight(), 180);
   }
 }
 

