@@ -13,15 +13,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "ADMDialogMetrics.h"
 #include "ADMRect.h"
+#include "BenchPlugin.h"
 #include "GoalTable.h"
-#include "HMX_AIPlugin.h"
-#include "HMX_AISuiteManager.h"
 #include "Host.h"
 #include "RVADM_CustomItem.h"
 #include "RVADM_Frame.h"
@@ -33,8 +31,6 @@
 #include "RVADM_Slider.h"
 #include "RVADM_TextEdit.h"
 #include "RVADM_TextPushButton.h"
-#include "SPBasic.h"
-#include "ToolkitPlugin.h"
 
 namespace {
 
@@ -138,14 +134,6 @@ class ItemDialog : public RVADM_ModalDialog {
   bool isFitted = false;
 };
 
-class BenchPlugin : public HMX_AIPlugin {
- public:
-  explicit BenchPlugin(const SPMessageData& message) : HMX_AIPlugin(message) {
-    if (suiteManager->Acquire() != kNoErr) throw std::runtime_error("no suites");
-  }
-  ~BenchPlugin() override { suiteManager->Release(); }
-};
-
 double MillisecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
@@ -224,8 +212,6 @@ int main(int count, char** arguments) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   const QApplication application(count, arguments);
   host::Host host;
-  const host::PluginRecord& record = host.addPlugin("bench", "/");
-  const BenchPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-  qRVADM::SetToolkitPlugin(record.handle);
+  const bench::BenchPlugin plugin(host, "/", {"AI Context Suite"});
   return Judge() == 0 ? 0 : 1;
 }

@@ -16,15 +16,13 @@
 #include <string>
 #include <vector>
 
+#include "BenchPlugin.h"
 #include "GoalTable.h"
-#include "HMX_AIPlugin.h"
-#include "HMX_AISuiteManager.h"
 #include "Host.h"
 #include "Icons.h"
 #include "LoadPixmap.h"
 #include "SPBasic.h"
 #include "ScratchFolder.h"
-#include "ToolkitPlugin.h"
 
 namespace {
 
@@ -70,15 +68,6 @@ class IconBundle {
 
   const ScratchFolder scratch_;
   const std::filesystem::path root_ = scratch_.path;
-};
-
-class IconBenchPlugin : public HMX_AIPlugin {
- public:
-  explicit IconBenchPlugin(const SPMessageData& message) : HMX_AIPlugin(message) {
-    RequestSuite("AI Data Filter Suite");
-    if (suiteManager->Acquire() != kNoErr) throw std::runtime_error("no suites");
-  }
-  ~IconBenchPlugin() override { suiteManager->Release(); }
 };
 
 double nanosecondsEach(const std::function<void(int)>& work) {
@@ -199,8 +188,6 @@ int main(int count, char** arguments) {
   const QApplication application(count, arguments);
   const IconBundle bundle;
   host::Host host;
-  const host::PluginRecord& record = host.addPlugin("bench", bundle.path());
-  const IconBenchPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-  qRVADM::SetToolkitPlugin(record.handle);
+  const bench::BenchPlugin plugin(host, bundle.path().c_str(), {"AI Data Filter Suite"});
   return judge(bundle, host) == 0 ? 0 : 1;
 }

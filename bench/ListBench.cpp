@@ -12,17 +12,14 @@
 #include <string>
 #include <vector>
 
+#include "BenchPlugin.h"
 #include "GoalTable.h"
-#include "HMX_AIPlugin.h"
-#include "HMX_AISuiteManager.h"
 #include "Host.h"
 #include "IADMDrawer.h"
 #include "RVADM_DropDownList.h"
 #include "RVADM_ModalDialog.h"
 #include "RVADM_TabListBox.h"
 #include "RVADM_TabListEntry.h"
-#include "SPBasic.h"
-#include "ToolkitPlugin.h"
 
 namespace {
 
@@ -33,15 +30,6 @@ constexpr int kFrames = 600;
 constexpr int kPixelsAFrame = 7;
 constexpr double kFrameMilliseconds = 1000.0 / 60;
 constexpr QSize kListSize{250, 600};
-
-class BenchPlugin : public HMX_AIPlugin {
- public:
-  explicit BenchPlugin(const SPMessageData& message) : HMX_AIPlugin(message) {
-    RequestSuite("AI Context Suite");
-    if (suiteManager->Acquire() != kNoErr) throw std::runtime_error("no suites");
-  }
-  ~BenchPlugin() override { suiteManager->Release(); }
-};
 
 // Rows as a palette of colours and names draws them: ground, rule, patch, name.
 struct PatchEntry : RVADM_TabListEntry {
@@ -184,8 +172,6 @@ int main(int count, char** arguments) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   const QApplication application(count, arguments);
   host::Host host;
-  const host::PluginRecord& record = host.addPlugin("bench", "");
-  const BenchPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-  SetToolkitPlugin(record.handle);
+  const bench::BenchPlugin plugin(host, "/", {"AI Context Suite"});
   return judge() == 0 ? 0 : 1;
 }

@@ -8,12 +8,11 @@
 #include <vector>
 
 #include "AIUser.h"
+#include "BenchPlugin.h"
 #include "DecimalText.h"
 #include "EvaluateExpression.h"
 #include "FormatDimension.h"
 #include "GoalTable.h"
-#include "HMX_AIPlugin.h"
-#include "HMX_AISuiteManager.h"
 #include "Host.h"
 #include "Median.h"
 #include "ParseDimension.h"
@@ -28,15 +27,6 @@ constexpr ADMUnits kUnits[] = {qRVADM::kMillimeterUnits, qRVADM::kPointUnits, qR
                                qRVADM::kPicaUnits};
 constexpr int kCount = 4000;
 constexpr int kRuns = 51;
-
-class NumberBenchPlugin : public HMX_AIPlugin {
- public:
-  explicit NumberBenchPlugin(const SPMessageData& message) : HMX_AIPlugin(message) {
-    RequestSuite(kAIUserSuite);
-    if (suiteManager->Acquire() != kNoErr) throw std::runtime_error("no suites");
-  }
-  ~NumberBenchPlugin() override { suiteManager->Release(); }
-};
 
 struct Sample {
   Dimension dimension;
@@ -93,8 +83,7 @@ int judge() {
 int main() {
   try {
     host::Host host;
-    const host::PluginRecord& record = host.addPlugin("bench", "/nowhere/Bench.bundle");
-    const NumberBenchPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
+    const bench::BenchPlugin plugin(host, "/", {kAIUserSuite});
     return judge() == 0 ? 0 : 1;
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "bench-numbers: %s\n", problem.what());
