@@ -234,7 +234,17 @@ void Document::setName(ArtId id, std::string name) {
 }
 
 void Document::setSelected(ArtId id, bool selected) {
-  if (art_[id].selected != selected) art_.edit(id).selected = selected;
+  if (art_[id].selected == selected) return;
+  ++selectionRevision_;
+  art_.edit(id).selected = selected;
+}
+
+std::vector<ArtId> Document::selection() const {
+  std::vector<ArtId> selected;
+  for (ArtId id = 1; id <= art_.size(); ++id) {
+    if (art_[id].alive && art_[id].selected) selected.push_back(id);
+  }
+  return selected;
 }
 
 void Document::initialiseArt(ArtId id, const Art& content) {

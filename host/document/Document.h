@@ -53,8 +53,11 @@ class Document {
   // The style that paints this path or compound path; null for other art.
   const AIPathStyle* styleOf(ArtId id) const;
   CustomColorId customColorByName(std::string_view name) const;  // 0 if there is none
-  // Any change of art, layers or artboards makes it another.
+  // Any change of art, layers or artboards makes it another; a change of the selection does not.
   std::uint64_t revision() const { return revision_; }
+  std::uint64_t selectionRevision() const { return selectionRevision_; }
+  // The art that is selected, in no order: never groups, nor paths inside a compound path, nor what is dead.
+  std::vector<ArtId> selection() const;
 
   // --- changing art ---
   // A null `reference` goes with kPlaceAboveAll and kPlaceBelowAll, which mean the current layer. The new
@@ -112,6 +115,7 @@ class Document {
   double scale_ = 1.0;
   AIRulerUnits rulerUnits_ = kPointRuler;
   std::uint64_t revision_ = 1;
+  std::uint64_t selectionRevision_ = 1;
   ObjectTable<Art> art_;
   ObjectTable<Layer> layers_;
   ObjectTable<Swatch> swatches_;

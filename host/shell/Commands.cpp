@@ -1,9 +1,6 @@
 #include "Commands.h"
 
-#include <iostream>
-
 #include "PreferredLanguages.h"
-#include "ProgramName.h"
 
 namespace host {
 namespace {
@@ -17,10 +14,6 @@ struct Runner {
 };
 
 }  // namespace
-
-void complain(const std::string& sentence) {
-  std::cerr << kProgramName << ": " << sentence << '\n';
-}
 
 int runCommandLine(int argc, char** argv) {
   const auto parsed = parseCommandLine(argc, argv);

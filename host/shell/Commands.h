@@ -13,7 +13,4 @@ ExitCode runInfo(const InfoArguments& arguments);
 // Parses the command line, runs its command and answers with the exit code.
 int runCommandLine(int argc, char** argv);
 
-// "corvane-host: " and the sentence, on a line of standard error.
-void complain(const std::string& sentence);
-
 }  // namespace host

@@ -2,6 +2,7 @@
 #include <iostream>
 
 #include "Commands.h"
+#include "Complain.h"
 #include "DrawingFile.h"
 #include "PngExport.h"
 

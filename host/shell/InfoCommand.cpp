@@ -1,6 +1,7 @@
 #include <iostream>
 
 #include "Commands.h"
+#include "Complain.h"
 #include "DrawingFile.h"
 #include "DrawingReport.h"
 

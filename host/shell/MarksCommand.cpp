@@ -8,6 +8,7 @@
 #include "AlertLine.h"
 #include "Bounds.h"
 #include "Commands.h"
+#include "Complain.h"
 #include "DialogAnswerer.h"
 #include "DrawingFile.h"
 #include "DrawingReport.h"

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Commands.h"
+#include "Complain.h"
 #include "ProductCommands.h"
 #include "Session.h"
 

@@ -6,6 +6,7 @@
 
 #include "AlertLine.h"
 #include "Commands.h"
+#include "Complain.h"
 #include "Display.h"
 #include "DrawingFile.h"
 #include "GuardedApplication.h"

@@ -1,28 +1,17 @@
 // The drawings that are open, and the files they come from and go to.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <variant>
 #include <vector>
 
-#include "SvgDrawing.h"
+#include "OpenDrawing.h"
 
 namespace host {
 
 class Host;
 class Session;
-struct OpenDocument;
-
-struct OpenDrawing {
-  SvgDrawing drawing;
-  OpenDocument* shown;           // in the host's list of documents; never null
-  std::uint64_t savedState = 0;  // Document::stateMark of what the file holds
-
-  Document& document() const { return *drawing.document; }
-  bool isModified() const { return document().stateMark() != savedState; }
-};
 
 class Workspace {
  public:

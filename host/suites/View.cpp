@@ -50,4 +50,16 @@ AIRealPoint View::toDocument(AIRealPoint pixels) const {
   return {center_.x + (pixels.x - width_ / 2.0) / scale, center_.y - (pixels.y - height_ / 2.0) / scale};
 }
 
+void View::moveBy(AIRealPoint pixels) {
+  const double scale = pixelsPerUnit();
+  center_ = {center_.x + pixels.x / scale, center_.y - pixels.y / scale};
+}
+
+void View::zoomAround(AIRealPoint pixels, double zoom) {
+  const AIRealPoint fixed = toDocument(pixels);
+  setZoom(zoom);
+  const AIRealPoint now = toPixels(fixed);
+  moveBy({now.x - pixels.x, now.y - pixels.y});
+}
+
 }  // namespace host

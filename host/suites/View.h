@@ -24,6 +24,9 @@ class View {
   AIRealRect bounds() const;          // document units
   void show(const AIRealRect& rect);  // the whole of it, in the middle, with a little room round it
 
+  void moveBy(AIRealPoint pixels);  // what lies so far right and down comes to where one looks
+  void zoomAround(AIRealPoint pixels, double zoom);  // what is at these pixels of the viewport stays there
+
   double pixelsPerUnit() const { return zoom_ * pointsPerUnit_; }
   AIRealMatrix pixelsFromDocument() const;
   AIRealPoint toPixels(AIRealPoint document) const;

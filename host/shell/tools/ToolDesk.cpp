@@ -9,10 +9,10 @@
 #include "DrawingView.h"
 #include "Host.h"
 #include "InfoDisplay.h"
+#include "OpenDrawing.h"
 #include "PainterCanvas.h"
 #include "PluginPictures.h"
 #include "ToolPalette.h"
-#include "Workspace.h"
 
 namespace host {
 namespace {
@@ -89,31 +89,38 @@ void ToolDesk::editOptions(AIToolHandle tool) {
   work(host_.tools().all().find(tool), [&] { return messages_.editOptions(tool); });
 }
 
-void ToolDesk::pointerMoved(DrawingView& view, AIRealPoint point) {
-  if (messages_.trackCursor(point)) return;
+void ToolDesk::pointerMoved(DrawingView& view, const PointerEvent& event) {
+  if (messages_.trackCursor(event.point)) return;
   view.unsetCursor();
   cursor_ = {};
 }
 
-void ToolDesk::pointerPressed(DrawingView&, AIRealPoint point) {
-  work(host_.tools().selected(), [&] { return messages_.mouseDown(point); });
+void ToolDesk::pointerLeft(DrawingView&) {}
+
+void ToolDesk::pointerPressed(DrawingView&, const PointerEvent& event) {
+  work(host_.tools().selected(), [&] { return messages_.mouseDown(event.point); });
 }
 
-void ToolDesk::pointerDragged(DrawingView&, AIRealPoint point) {
-  work(host_.tools().selected(), [&] { return messages_.mouseDrag(point); });
+void ToolDesk::pointerDragged(DrawingView&, const PointerEvent& event) {
+  work(host_.tools().selected(), [&] { return messages_.mouseDrag(event.point); });
 }
 
-void ToolDesk::pointerReleased(DrawingView&, AIRealPoint point) {
-  work(host_.tools().selected(), [&] { return messages_.mouseUp(point); });
+void ToolDesk::pointerReleased(DrawingView&, const PointerEvent& event) {
+  work(host_.tools().selected(), [&] { return messages_.mouseUp(event.point); });
 }
 
-void ToolDesk::paintOver(DrawingView& view, AnnotationCanvas& canvas) {
+void ToolDesk::keyPressed(DrawingView&, QKeyEvent&) {}
+
+void ToolDesk::paintOver(DrawingView& view, QPainter& painter) {
+  PainterCanvas canvas(painter, view.rect());
   drawAnnotations(host_, session_, *view.drawing().shown, canvas);
 }
 
 void ToolDesk::aboutToMove(DrawingView& view) {
   invalidateAnnotations(host_, session_, *view.drawing().shown);
 }
+
+void ToolDesk::moved(DrawingView&) {}
 
 void ToolDesk::work(const ToolRecord* tool, const std::function<std::optional<SPErr>()>& send) {
   const std::string title = tool == nullptr ? std::string() : tool->title;

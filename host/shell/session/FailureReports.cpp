@@ -4,7 +4,7 @@
 #include <QThread>
 #include <QTimer>
 
-#include "Commands.h"
+#include "Complain.h"
 #include "Host.h"
 
 namespace host {

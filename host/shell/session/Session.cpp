@@ -117,6 +117,30 @@ void Session::notifyOfCurrentDocument() {
   notify(kAIDocumentChangedNotifier, current == nullptr ? nullptr : current->handle());
 }
 
+void Session::edit(const std::string& stepName, const std::function<void(Document&)>& change) {
+  Document* const document = host_.currentDocument();
+  if (document == nullptr) return;
+  {
+    const UndoStep step(host_.documents(), stepName);
+    change(*document);
+  }
+  tellChanges();
+}
+
+Session::Told Session::now() const {
+  const Document* const document = host_.currentDocument();
+  if (document == nullptr) return {};
+  return {document->serial(), document->selectionRevision(), document->revision()};
+}
+
+void Session::tellChanges() {
+  if (depth_ > 0) return;
+  const Told before = std::exchange(told_, now());
+  const bool isAnother = before.serial != told_.serial;
+  if (isAnother || before.selection != told_.selection) notify(kAIArtSelectionChangedNotifier);
+  if (!isAnother && before.revision != told_.revision) notify(kAIArtPropertiesChangedNotifier);
+}
+
 void Session::shutdown() {
   if (started_) {
     notify(kAISaveUserDataNotifier);
@@ -163,12 +187,14 @@ SPErr Session::sendTo(LoadedPlugin& plugin, const char* caller, const char* sele
   message.basic = host_.basic();
   const UndoStep step(host_.documents(), stepName.empty() ? "Change" : stepName);
   const std::size_t depth = host_.contexts().depth();
+  ++depth_;
   SPErr code = kSPExceptionError;
   try {
     code = plugin.bundle.entry()(caller, selector, &message);
   } catch (...) {
     code = kSPExceptionError;
   }
+  --depth_;
   host_.contexts().popTo(depth);
   plugin.globals = message.globals;
   return code;

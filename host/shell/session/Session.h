@@ -1,7 +1,9 @@
 // The life of the application with its plug-ins, in messages.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -42,6 +44,14 @@ class Session {
   // To be called before an item is shown: its plug-in may check it or not.
   void updateMenuItem(AIMenuItemHandle handle);
 
+  // What the application itself changes in the current document for its user: one step of that name, or no
+  // step if nothing but the selection changed. Plug-ins are told.
+  void edit(const std::string& stepName, const std::function<void(Document&)>& change);
+  // Tells plug-ins if the selection, or the art and what it looks like, are others than when this was last
+  // called, in whichever document is current. To be called after every action of the user that may have
+  // changed something, undo and redo among them; within messages it does nothing.
+  void tellChanges();
+
   // Tells every plug-in; safe to call twice.
   void shutdown();
 
@@ -53,6 +63,14 @@ class Session {
 
  private:
   void notifyOfCurrentDocument();
+
+  // What a document was when plug-ins were last told of it.
+  struct Told {
+    std::uint32_t serial = 0;  // 0: no document
+    std::uint64_t selection = 0;
+    std::uint64_t revision = 0;
+  };
+  Told now() const;
 
   struct LoadedPlugin {
     SPPluginRef ref;
@@ -66,6 +84,8 @@ class Session {
   Host& host_;
   std::vector<LoadedPlugin> plugins_;
   bool started_ = false;
+  int depth_ = 0;  // of messages under way
+  Told told_;
 };
 
 }  // namespace host

@@ -37,12 +37,15 @@ class ToolDesk : public ViewEvents {
   // To be called when tools may have been added or the theme has changed.
   void refresh();
 
-  void pointerMoved(DrawingView& view, AIRealPoint point) override;
-  void pointerPressed(DrawingView& view, AIRealPoint point) override;
-  void pointerDragged(DrawingView& view, AIRealPoint point) override;
-  void pointerReleased(DrawingView& view, AIRealPoint point) override;
-  void paintOver(DrawingView& view, AnnotationCanvas& canvas) override;
+  void pointerMoved(DrawingView& view, const PointerEvent& event) override;
+  void pointerLeft(DrawingView& view) override;
+  void pointerPressed(DrawingView& view, const PointerEvent& event) override;
+  void pointerDragged(DrawingView& view, const PointerEvent& event) override;
+  void pointerReleased(DrawingView& view, const PointerEvent& event) override;
+  void keyPressed(DrawingView& view, QKeyEvent& event) override;
+  void paintOver(DrawingView& view, QPainter& painter) override;
   void aboutToMove(DrawingView& view) override;
+  void moved(DrawingView& view) override;
 
  private:
   using ShownCursor = std::tuple<const DrawingView*, SPPluginRef, std::int32_t, double>;

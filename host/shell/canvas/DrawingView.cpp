@@ -1,14 +1,14 @@
 #include "DrawingView.h"
 
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <cmath>
 #include <utility>
 
 #include "Host.h"
-#include "PainterCanvas.h"
+#include "OpenDrawing.h"
 #include "ViewEvents.h"
-#include "Workspace.h"
 
 namespace host {
 namespace {
@@ -40,36 +40,80 @@ void DrawingView::repaintLater(const QRectF& part) {
 }
 
 void DrawingView::reportPointer() {
-  if (underMouse()) events_.pointerMoved(*this, toDocument(mapFromGlobal(QCursor::pos())));
+  if (!underMouse()) return;
+  events_.pointerMoved(*this,
+                       eventAt(mapFromGlobal(QCursor::pos()), QGuiApplication::queryKeyboardModifiers()));
 }
 
-AIRealPoint DrawingView::toDocument(const QPointF& position) const {
-  return drawing_.shown->view.toDocument({position.x(), position.y()});
+PointerEvent DrawingView::eventAt(const QPointF& position, Qt::KeyboardModifiers modifiers) const {
+  return {drawing_.shown->view.toDocument({position.x(), position.y()}), position, modifiers};
 }
 
 void DrawingView::enterEvent(QEvent* event) {
-  events_.pointerMoved(*this, toDocument(static_cast<QEnterEvent*>(event)->localPos()));
+  events_.pointerMoved(*this, eventAt(static_cast<QEnterEvent*>(event)->localPos(), {}));
+}
+
+void DrawingView::leaveEvent(QEvent*) {
+  events_.pointerLeft(*this);
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) events_.pointerPressed(*this, toDocument(event->localPos()));
+  if (event->button() != Qt::LeftButton) return;
+  events_.pointerPressed(*this, eventAt(event->localPos(), event->modifiers()));
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
-  const AIRealPoint point = toDocument(event->localPos());
-  if ((event->buttons() & Qt::LeftButton) != 0) return events_.pointerDragged(*this, point);
-  events_.pointerMoved(*this, point);
+  const PointerEvent at = eventAt(event->localPos(), event->modifiers());
+  if ((event->buttons() & Qt::LeftButton) != 0) return events_.pointerDragged(*this, at);
+  events_.pointerMoved(*this, at);
 }
 
 void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) events_.pointerReleased(*this, toDocument(event->localPos()));
+  if (event->button() != Qt::LeftButton) return;
+  events_.pointerReleased(*this, eventAt(event->localPos(), event->modifiers()));
+}
+
+void DrawingView::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
+  events_.keyPressed(*this, *event);
 }
 
 void DrawingView::resizeEvent(QResizeEvent*) {
   events_.aboutToMove(*this);
   View& view = drawing_.shown->view;
   view.setViewport(width(), height());
-  view.show(unionOfArtboards(drawing_.document()));
+  if (isFitted_) view.show(unionOfArtboards(drawing_.document()));
+  update();
+  events_.moved(*this);
+}
+
+void DrawingView::move(const std::function<void(View&)>& change) {
+  events_.aboutToMove(*this);
+  isFitted_ = false;
+  change(drawing_.shown->view);
+  update();
+  events_.moved(*this);
+}
+
+void DrawingView::panBy(const QPointF& pixels) {
+  move([&](View& view) { view.moveBy({pixels.x(), pixels.y()}); });
+}
+
+void DrawingView::zoomAround(const QPointF& fixed, double zoom) {
+  move([&](View& view) { view.zoomAround({fixed.x(), fixed.y()}, zoom); });
+}
+
+void DrawingView::zoomTo(double zoom) {
+  zoomAround({width() / 2.0, height() / 2.0}, zoom);
+}
+
+void DrawingView::fit(const AIRealRect& rect) {
+  move([&](View& view) { view.show(rect); });
+}
+
+void DrawingView::fitArtboards() {
+  fit(unionOfArtboards(drawing_.document()));
+  isFitted_ = true;
 }
 
 void DrawingView::load() {
@@ -113,8 +157,7 @@ void DrawingView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   paintDrawing(painter);
   paintComplaint(painter);
-  PainterCanvas canvas(painter, rect());
-  events_.paintOver(*this, canvas);
+  events_.paintOver(*this, painter);
 }
 
 void DrawingView::paintDrawing(QPainter& painter) {

@@ -8,7 +8,7 @@
 
 #include "DrawingView.h"
 #include "Host.h"
-#include "Workspace.h"
+#include "OpenDrawing.h"
 
 namespace host {
 
