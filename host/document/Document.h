@@ -58,6 +58,7 @@ class Document {
   std::uint64_t selectionRevision() const { return selectionRevision_; }
   // The art that is selected, in no order: never groups, nor paths inside a compound path, nor what is dead.
   std::vector<ArtId> selection() const;
+  bool isSelected(ArtId id) const { return art(id) != nullptr && art_[id].selected; }
 
   // --- changing art ---
   // A null `reference` goes with kPlaceAboveAll and kPlaceBelowAll, which mean the current layer. The new
