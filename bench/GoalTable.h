@@ -11,7 +11,8 @@ class GoalTable {
   // A figure that should be at most `goal` (or, with atLeast, at least). `note` says how it came about.
   void atMost(const std::string& figure, double value, double goal, const std::string& note = {});
   void atLeast(const std::string& figure, double value, double goal, const std::string& note = {});
-  // All rows so far, aligned; the number of goals that were not met.
+  // All rows so far, aligned; the number of goals that were not met. They are also appended, a line each with
+  // tabs between the columns, to the file that the environment variable CORVANE_BENCH_ROWS names.
   int print() const;
 
  private:
@@ -19,6 +20,8 @@ class GoalTable {
     std::string figure, value, goal, note;
     bool met;
   };
+  void appendTo(const char* file) const;
+
   std::vector<Row> rows_;
 };
 
