@@ -33,6 +33,14 @@ enum AIArtBoundsFlags : std::int32_t {
   kExcludeGuideBounds = 0x40             // guides count for nothing
 };
 
+// Attributes of art, one bit each.
+enum AIArtUserAttr : std::int32_t {
+  kArtSelected = 0x01,  // a group: anything in it is; a path inside a compound path: the whole is
+  kArtLocked = 0x02,    // by itself, whatever its layer or group is
+  kArtHidden = 0x04,    // by itself
+  kArtIsClipMask = 0x1000
+};
+
 constexpr char kAIArtSuite[] = "AI Art Suite";
 constexpr std::int32_t kAIArtSuiteVersion = 1021;
 
@@ -44,6 +52,10 @@ struct AIArtSuite {
   AIErr (*DisposeArt)(AIArtHandle art);  // with all it holds
   // Moves art. kBadParameterErr if `prep` lies inside `art`.
   AIErr (*ReorderArt)(AIArtHandle art, AIPaintOrder order, AIArtHandle prep);
+  // Makes a copy of art with all it holds, paints, names and locks; of selected art the copy is selected too.
+  // The root group of a layer beside that of another one copies the whole layer, with title and state, as a
+  // layer there; *copy is its root group. Errors as of NewArt and ReorderArt.
+  AIErr (*DuplicateArt)(AIArtHandle art, AIPaintOrder order, AIArtHandle prep, AIArtHandle* copy);
   // The root group of a layer; a null layer is the current one. Never null on success.
   AIErr (*GetFirstArtOfLayer)(AILayerHandle layer, AIArtHandle* art);
   // Null at the end of the walk, with success.
@@ -52,6 +64,12 @@ struct AIArtSuite {
   AIErr (*GetArtParent)(AIArtHandle art, AIArtHandle* parent);    // null for a root group
   AIErr (*GetArtType)(AIArtHandle art, std::int16_t* type);
   AIErr (*GetLayerOfArt)(AIArtHandle art, AILayerHandle* layer);
+  // Of the attributes in `which`, a sum, those that are set.
+  AIErr (*GetArtUserAttr)(AIArtHandle art, std::int32_t which, std::int32_t* attributes);
+  // Selects or deselects; selecting a group selects what it holds that is neither locked nor hidden. No step
+  // of undo. kLayerLockedErr for art that is to be selected and is locked or hidden, as is its layer or
+  // group; kBadParameterErr if `which` is not kArtSelected.
+  AIErr (*SetArtUserAttr)(AIArtHandle art, std::int32_t which, std::int32_t attributes);
   AIErr (*GetArtName)(AIArtHandle art, AIUnicodeStringHandle name);  // empty if it has none
   AIErr (*SetArtName)(AIArtHandle art, AIUnicodeStringHandle name);
   // Bounds after `matrix` (null is the identity). Art that holds nothing that counts gives a rectangle

@@ -10,6 +10,7 @@ constexpr std::int32_t kAILayerSuiteVersion = 1013;
 struct AILayerSuite {
   AIErr (*CountLayers)(std::int32_t* count);
   AIErr (*GetNthLayer)(std::int32_t index, AILayerHandle* layer);       // 0 is the top; kNoSuchItemErr beyond
+  AIErr (*GetFirstLayer)(AILayerHandle* layer);                         // the topmost
   AIErr (*GetNextLayer)(AILayerHandle previous, AILayerHandle* layer);  // null at the end, with success
   // The topmost layer of exactly this title; null if there is none, with success.
   AIErr (*GetLayerByTitle)(AIUnicodeStringHandle title, AILayerHandle* layer);

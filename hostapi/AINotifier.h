@@ -31,6 +31,7 @@ constexpr char kAIDocumentOpenedNotifier[] = "AI Document Opened Notifier";  // 
 constexpr char kAIDocumentChangedNotifier[] =
     "AI Document Changed Notifier";  // data: the current one, or null
 constexpr char kAIArtSelectionChangedNotifier[] = "AI Art Selection Changed Notifier";
+// The art, or the properties of what is selected: also behind every change of the selection.
 constexpr char kAIArtPropertiesChangedNotifier[] = "AI Art Properties Changed Notifier";
 constexpr char kAIUIBrightnessChangedNotifier[] = "AI UI Brightness Changed Notifier";
 constexpr char kAIDocumentClosedNotifier[] = "AI Document Closed Notifier";  // data: AIDocumentHandle, closed

@@ -36,3 +36,11 @@ bool IsBundle(const char* folder);
 // False, with the buffer left alone, if there is no such file or its path does not fit.
 bool CopyBundleResourcePath(const char* bundle, const char* name, const char* extension,
                             const char* localisation, char* path, std::size_t size);
+
+constexpr std::int16_t kLocalDomain = -32765;                    // of this machine, for all its users
+constexpr std::uint32_t kSharedUserDataFolderType = 0x73646174;  // "sdat": for what plug-ins share
+
+// The absolute path of a folder, NUL-terminated UTF-8 without a "/" at its end, in a buffer of `size` bytes.
+// The folder is there then, and all users may write into it. False, with the buffer left alone, for other
+// folders than that of the two constants, if it can be neither found nor made, and if the path does not fit.
+bool FSFindFolder(std::int16_t domain, std::uint32_t type, char* path, std::size_t size);

@@ -52,7 +52,6 @@ struct Art {
   AIArtType type = kUnknownArt;
   bool hidden = false;  // by itself, whatever its layer does
   bool locked = false;
-  bool selected = false;
   bool guide = false;
 
   // The tree. The first child is the topmost. A root group has no parent and names its layer.
@@ -64,6 +63,7 @@ struct Art {
   LayerId rootOf = 0;
 
   SourceId source = 0;
+  ArtId copyOf = 0;                          // what it was copied from, or that one was; 0: no copy
   std::string name;                          // UTF-8
   std::shared_ptr<const PathGeometry> path;  // path art; never null there
   // Paths outside a compound path and compound paths; never null there. A path inside a compound path

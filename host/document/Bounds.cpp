@@ -59,7 +59,7 @@ struct LaidPath {
   AIRealRect rough;           // holds all of it
 };
 
-// Walks an art and all below it. What it has found already spares a closer look at what lies inside that.
+// Walks arts and all below them. What it has found already spares a closer look at what lies inside that.
 class BoundsFinder {
  public:
   BoundsFinder(const Document& document, const AIRealMatrix& matrix, std::int32_t flags)
@@ -67,7 +67,7 @@ class BoundsFinder {
     widening_ = std::max(std::hypot(matrix.a, matrix.c), std::hypot(matrix.b, matrix.d));
   }
 
-  AIRealRect boundsOf(ArtId top) {
+  void add(ArtId top) {
     const AIRealRect all{-HUGE_VAL, HUGE_VAL, HUGE_VAL, -HUGE_VAL};
     std::vector<AIRealRect> limits;  // of the current art and those that hold it
     ArtId id = top;
@@ -75,7 +75,7 @@ class BoundsFinder {
       const Art& art = *document_.art(id);
       AIRealRect limit = limits.empty() ? all : limits.back();
       if (art.clip) limit = intersect(limit, clipBounds(*art.clip, matrix_));
-      add(id, art, limit);
+      addArt(id, art, limit);
       if (art.firstChild != 0 && !isEmpty(limit)) {
         limits.push_back(limit);
         id = art.firstChild;
@@ -88,12 +88,15 @@ class BoundsFinder {
       if (id == top) break;
       id = document_.art(id)->below;
     }
+  }
+
+  AIRealRect finish() {
     includePaths();
     return found_;
   }
 
  private:
-  void add(ArtId id, const Art& art, const AIRealRect& limit) {
+  void addArt(ArtId id, const Art& art, const AIRealRect& limit) {
     if (art.guide && (flags_ & kExcludeGuideBounds) != 0) return;
     if (art.path) addPath(*art.path, document_.styleOf(id), limit);
     if (art.body) addBody(*art.body, limit);
@@ -166,7 +169,15 @@ class BoundsFinder {
 }  // namespace
 
 AIRealRect artBounds(const Document& document, ArtId art, const AIRealMatrix* matrix, std::int32_t flags) {
-  return BoundsFinder(document, matrix == nullptr ? kIdentity : *matrix, flags).boundsOf(art);
+  BoundsFinder finder(document, matrix == nullptr ? kIdentity : *matrix, flags);
+  finder.add(art);
+  return finder.finish();
+}
+
+AIRealRect commonBounds(const Document& document, const std::vector<ArtId>& arts, std::int32_t flags) {
+  BoundsFinder finder(document, kIdentity, flags);
+  for (const ArtId art : arts) finder.add(art);
+  return finder.finish();
 }
 
 AIRealRect pathBounds(const PathGeometry& path) {

@@ -40,22 +40,6 @@ struct Place {
 
 }  // namespace
 
-struct Document::Step {
-  std::string name;
-  std::uint64_t mark = 0;  // no two steps of a document share one
-  TableChanges<Art> art;
-  TableChanges<Layer> layers;
-  TableChanges<Swatch> swatches;
-  TableChanges<SwatchGroup> swatchGroups;
-  TableChanges<CustomColor> customColors;
-  TableChanges<DocumentState> state;
-
-  bool empty() const {
-    return art.saved.empty() && layers.saved.empty() && swatches.saved.empty() &&
-           swatchGroups.saved.empty() && customColors.saved.empty() && state.saved.empty();
-  }
-};
-
 Document::Document() : serial_(nextSerial()) {
   state_.add(DocumentState{});
 }
@@ -193,7 +177,10 @@ bool Document::moveArt(ArtId id, AIPaintOrder order, ArtId reference) {
   const bool leavesCompound =
       art_[object->parent].type == kCompoundPathArt && art_[place->parent].type != kCompoundPathArt;
   if (leavesCompound) art_.edit(id).style = art_[art_[id].parent].style;
-  if (art_[place->parent].type == kCompoundPathArt) art_.edit(id).style = nullptr;
+  if (art_[place->parent].type == kCompoundPathArt) {
+    art_.edit(id).style = nullptr;
+    selection_.remove(id);
+  }
   unlink(id);
   link(id, place->parent, place->above);
   return true;
@@ -205,6 +192,7 @@ void Document::killSubtree(ArtId id) {
     const ArtId current = open.back();
     open.pop_back();
     art_.edit(current).alive = false;
+    selection_.remove(current);
     for (ArtId child = art_[current].firstChild; child != 0; child = art_[child].below) open.push_back(child);
   }
 }
@@ -231,20 +219,6 @@ void Document::setStyle(ArtId id, std::shared_ptr<const AIPathStyle> style) {
 void Document::setName(ArtId id, std::string name) {
   touch();
   art_.edit(id).name = std::move(name);
-}
-
-void Document::setSelected(ArtId id, bool selected) {
-  if (art_[id].selected == selected) return;
-  ++selectionRevision_;
-  art_.edit(id).selected = selected;
-}
-
-std::vector<ArtId> Document::selection() const {
-  std::vector<ArtId> selected;
-  for (ArtId id = 1; id <= art_.size(); ++id) {
-    if (art_[id].alive && art_[id].selected) selected.push_back(id);
-  }
-  return selected;
 }
 
 void Document::initialiseArt(ArtId id, const Art& content) {
@@ -333,89 +307,6 @@ SwatchId Document::addSwatch(SwatchGroupId group, const AIColor& color, std::str
 ObjectId Document::addPaintServer(PaintServer server) {
   paintServers_.push_back(std::move(server));
   return static_cast<ObjectId>(paintServers_.size());
-}
-
-void Document::startRecording() {
-  art_.setRecording(true);
-  layers_.setRecording(true);
-  swatches_.setRecording(true);
-  swatchGroups_.setRecording(true);
-  customColors_.setRecording(true);
-  state_.setRecording(true);
-}
-
-void Document::closeOpenStep(std::string name) {
-  Step step;
-  step.name = std::move(name);
-  step.art = art_.takeChanges();
-  step.layers = layers_.takeChanges();
-  step.swatches = swatches_.takeChanges();
-  step.swatchGroups = swatchGroups_.takeChanges();
-  step.customColors = customColors_.takeChanges();
-  step.state = state_.takeChanges();
-  if (step.empty()) return;
-  step.mark = ++stepsMade_;
-  undone_.clear();
-  done_.push_back(std::move(step));
-}
-
-void Document::beginStep(std::string name) {
-  if (stepDepth_++ > 0) return;
-  closeOpenStep("Change");
-  stepName_ = std::move(name);
-}
-
-void Document::endStep() {
-  if (stepDepth_ == 0 || --stepDepth_ > 0) return;
-  closeOpenStep(std::move(stepName_));
-}
-
-void Document::exchange(Step& step) {
-  touch();
-  art_.exchange(step.art);
-  layers_.exchange(step.layers);
-  swatches_.exchange(step.swatches);
-  swatchGroups_.exchange(step.swatchGroups);
-  customColors_.exchange(step.customColors);
-  state_.exchange(step.state);
-}
-
-bool Document::undo() {
-  if (stepDepth_ > 0) return false;
-  closeOpenStep("Change");
-  if (done_.empty()) return false;
-  Step step = std::move(done_.back());
-  done_.pop_back();
-  exchange(step);
-  undone_.push_back(std::move(step));
-  return true;
-}
-
-bool Document::redo() {
-  if (stepDepth_ > 0) return false;
-  closeOpenStep("Change");
-  if (undone_.empty()) return false;
-  Step step = std::move(undone_.back());
-  undone_.pop_back();
-  exchange(step);
-  done_.push_back(std::move(step));
-  return true;
-}
-
-std::string Document::undoName() const {
-  return done_.empty() ? std::string() : done_.back().name;
-}
-
-std::string Document::redoName() const {
-  return undone_.empty() ? std::string() : undone_.back().name;
-}
-
-std::size_t Document::undoCount() const {
-  return done_.size();
-}
-
-std::uint64_t Document::stateMark() const {
-  return done_.empty() ? 0 : done_.back().mark;
 }
 
 }  // namespace host

@@ -14,7 +14,9 @@
 
 #include "AIDocument.h"
 #include "DocumentState.h"
+#include "DocumentStep.h"
 #include "ObjectTable.h"
+#include "Selection.h"
 
 namespace host {
 
@@ -55,10 +57,21 @@ class Document {
   CustomColorId customColorByName(std::string_view name) const;  // 0 if there is none
   // Any change of art, layers or artboards makes it another; a change of the selection does not.
   std::uint64_t revision() const { return revision_; }
-  std::uint64_t selectionRevision() const { return selectionRevision_; }
-  // The art that is selected, in no order: never groups, nor paths inside a compound path, nor what is dead.
-  std::vector<ArtId> selection() const;
-  bool isSelected(ArtId id) const { return art(id) != nullptr && art_[id].selected; }
+
+  // --- what is selected ---
+  // Selecting is no edit: it makes no step and no other stateMark(). Undo brings back what was selected as
+  // the step began, redo what was as it ended.
+  std::uint64_t selectionRevision() const { return selection_.revision(); }
+  // In no order: never groups, nor paths inside a compound path, nor what is dead.
+  std::vector<ArtId> selection() const { return selection_.members(); }
+  std::size_t selectedCount() const { return selection_.members().size(); }
+  bool isSelected(ArtId id) const { return selection_.has(id); }
+  // Is the art selected, or something inside it, or the compound path that it is a part of?
+  bool holdsSelected(ArtId id) const;
+  // A group stands for all it holds, a path inside a compound path for the whole. Locked and hidden art is
+  // for the caller to leave out.
+  void setSelected(ArtId id, bool selected);
+  void deselectAll() { selection_.clear(); }
 
   // --- changing art ---
   // A null `reference` goes with kPlaceAboveAll and kPlaceBelowAll, which mean the current layer. The new
@@ -69,7 +82,6 @@ class Document {
   void setPath(ArtId id, std::shared_ptr<const PathGeometry> path);
   void setStyle(ArtId id, std::shared_ptr<const AIPathStyle> style);  // also through a path in a compound
   void setName(ArtId id, std::string name);
-  void setSelected(ArtId id, bool selected);
   // For readers: fills what the record of a fresh art holds beside its place in the tree.
   void initialiseArt(ArtId id, const Art& content);
 
@@ -78,6 +90,10 @@ class Document {
   void deleteLayer(LayerId id);  // with its art
   Layer& editLayer(LayerId id);  // the reference ends with the next change; leave `root` alone
   DocumentState& editState();
+  // Choices of the user, which are no edits either. Undo of a step that changed the list that one is chosen
+  // from brings back the choice there was.
+  void setCurrentLayer(LayerId id) { state_.amend(1).currentLayer = id; }
+  void setActiveArtboard(std::size_t index) { state_.amend(1).activeArtboard = index; }
 
   // --- colours ---
   CustomColorId addCustomColor(std::string name, const AICustomColor& definition);
@@ -103,20 +119,26 @@ class Document {
   void startRecording();
 
  private:
-  struct Step;
+  // Which art, by id, has selected art inside, as it stood at these revisions.
+  struct Holders {
+    std::uint64_t revision = 0;
+    std::uint64_t selectionRevision = 0;
+    std::vector<bool> holds;
+  };
 
   void link(ArtId id, ArtId parent, ArtId above);
   void unlink(ArtId id);
   void killSubtree(ArtId id);
-  void touch() { ++revision_; }
+  void touch();  // before any change of art, layers or artboards
+  void setLeavesSelected(ArtId top, bool selected);
+  const std::vector<bool>& selectionHolders() const;
   void closeOpenStep(std::string name);
-  void exchange(Step& step);
+  void exchange(DocumentStep& step);
 
   std::uint32_t serial_;
   double scale_ = 1.0;
   AIRulerUnits rulerUnits_ = kPointRuler;
   std::uint64_t revision_ = 1;
-  std::uint64_t selectionRevision_ = 1;
   ObjectTable<Art> art_;
   ObjectTable<Layer> layers_;
   ObjectTable<Swatch> swatches_;
@@ -124,11 +146,14 @@ class Document {
   ObjectTable<CustomColor> customColors_;
   ObjectTable<DocumentState> state_;
   std::vector<PaintServer> paintServers_;
-  std::vector<Step> done_;
-  std::vector<Step> undone_;
+  std::vector<DocumentStep> done_;
+  std::vector<DocumentStep> undone_;
   std::uint64_t stepsMade_ = 0;
   std::string stepName_;
   int stepDepth_ = 0;
+  Selection selection_;
+  Selection::Snapshot selectionBefore_;  // as the open step began; null if that was just now
+  mutable Holders holders_;
 };
 
 }  // namespace host

@@ -22,7 +22,8 @@ struct Layer {
   bool dimsPlacedImages = false;
   ArtId root = 0;  // its group
   SourceId source = 0;
-  std::string title;  // UTF-8; titles need not differ
+  LayerId copyOf = 0;  // what it was copied from, or that one was; 0: no copy
+  std::string title;   // UTF-8; titles need not differ
 };
 
 struct CustomColor {

@@ -58,6 +58,9 @@ class ObjectTable {
     return record;
   }
 
+  // For what is part of no step. The reference ends with the next add().
+  Record& amend(ObjectId id) { return records_[id - 1]; }
+
   std::size_t size() const { return records_.size(); }  // dead ones included; ids run from 1 to this
   void reserve(std::size_t count) {
     records_.reserve(count);

@@ -41,7 +41,7 @@ PixelSize pictureSize(const AIRealRect& all, double points, const PngOptions& op
 
 std::variant<PngPicture, std::string> renderPng(const SvgDrawing& drawing, std::string svg,
                                                 const PngOptions& options) {
-  auto loaded = SvgPicture::load(drawing, std::move(svg), options.file);
+  auto loaded = SvgPicture::load(pictureSource(drawing, std::move(svg), options.file));
   if (std::string* reason = std::get_if<std::string>(&loaded)) return std::move(*reason);
   const SvgPicture& shown = std::get<SvgPicture>(loaded);
 

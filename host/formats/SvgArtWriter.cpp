@@ -28,7 +28,8 @@ constexpr std::string_view kSodipodiAttributes[] = {"type", "nodetypes"};
 
 void SvgArtWriter::cutLost() {
   const auto count = static_cast<ArtId>(writing_.drawing.originalArt.size());
-  for (ArtId id = 1; id <= count; ++id) {
+  for (ArtId read = 1; read <= count; ++read) {
+    const ArtId id = writing_.changes.heirOf(read);
     const NodeIndex element = writing_.changes.originalElementOf(id);
     const bool lost = element != 0 && writing_.changes.elementOf(id) == 0;
     if (lost && writing_.canEdit(element)) writing_.plan.cut(element);
@@ -94,7 +95,34 @@ SvgNewContent SvgArtWriter::content(ArtId id, const SvgPlace& place) {
   const Art& art = *writing_.document.art(id);
   if (art.type == kGroupArt) return newGroup(id, place);
   SvgNewContent result;
-  if (isPath(art)) result.add(newPath(id, place));
+  const NodeIndex model = art.copyOf == 0 ? 0 : writing_.changes.originalElementOf(art.copyOf);
+  if (isPath(art)) {
+    result.add(newPath(id, place));
+  } else if (model != 0) {
+    result = copied(id, model, place);
+  }
+  return result;
+}
+
+// Art that is kept as a whole, beside what it was copied from. Ids stay with the original.
+SvgNewContent SvgArtWriter::copied(ArtId id, NodeIndex element, const SvgPlace& place) {
+  SvgNewContent result;
+  if (!writing_.canEdit(element)) return result;
+  const SvgSource& source = writing_.source;
+  SvgEditPlan plan(source, writing_.layout);
+  SvgTagEdit tag(source, writing_.declared, element);
+  adaptToPlace(writing_, element, place, tag);
+  const std::string& name = writing_.document.art(id)->name;
+  if (name != writing_.changes.original(writing_.document.art(id)->copyOf)->name) {
+    tag.set(XmlNamespace::Inkscape, "label", name);
+  }
+  tag.write(plan, writing_.prefixes);
+  const std::size_t end = source.node(element).end;
+  for (NodeIndex node = element; node <= source.nodeCount() && source.node(node).begin < end; ++node) {
+    const auto range = source.rawAttribute(node, XmlNamespace::None, "id");
+    if (range) plan.replace(range->outerBegin, range->outerEnd, "");
+  }
+  result.add(plan.elementText(element, writing_.prefixes));
   return result;
 }
 

@@ -27,6 +27,7 @@ class SvgArtWriter {
  private:
   SvgNewContent content(ArtId id, const SvgPlace& place);
   SvgNewContent moved(ArtId id, NodeIndex element, const SvgPlace& place);
+  SvgNewContent copied(ArtId id, NodeIndex element, const SvgPlace& place);
   SvgNewContent newGroup(ArtId id, const SvgPlace& place);
   std::string newPath(ArtId id, const SvgPlace& place);
   std::string newTag(std::string_view element, ArtId id, const SvgPlace& place);

@@ -55,18 +55,55 @@ std::vector<bool> entriesInPlace(const std::vector<ObjectId>& now, const std::ve
   return longestRise(positions);
 }
 
-SvgChanges::SvgChanges(const SvgDrawing& drawing) : drawing_(drawing), document_(*drawing.document) {}
+void SvgChanges::Heirs::add(ObjectId original, ObjectId heir) {
+  if (heirs.emplace(original, heir).second) originals.emplace(heir, original);
+}
+
+ObjectId SvgChanges::Heirs::heirOf(ObjectId id) const {
+  const auto found = heirs.find(id);
+  return found == heirs.end() ? id : found->second;
+}
+
+ObjectId SvgChanges::Heirs::originalOf(ObjectId id) const {
+  const auto found = originals.find(id);
+  return found == originals.end() ? id : found->second;
+}
+
+SvgChanges::SvgChanges(const SvgDrawing& drawing) : drawing_(drawing), document_(*drawing.document) {
+  const auto artRead = static_cast<ArtId>(drawing.originalArt.size());
+  for (ArtId id = artRead + 1; id <= document_.artSlots(); ++id) {
+    const Art* const copy = document_.art(id);
+    const bool inherits =
+        copy && copy->copyOf != 0 && copy->copyOf <= artRead && !document_.art(copy->copyOf);
+    if (inherits) art_.add(copy->copyOf, id);
+  }
+  const auto layersRead = static_cast<LayerId>(drawing.originalLayers.size());
+  for (LayerId id = layersRead + 1; id <= document_.layerSlots(); ++id) {
+    const Layer* const copy = document_.layer(id);
+    const bool inherits =
+        copy && copy->copyOf != 0 && copy->copyOf <= layersRead && !document_.layer(copy->copyOf);
+    if (inherits) layers_.add(copy->copyOf, id);
+  }
+}
 
 const Art* SvgChanges::original(ArtId id) const {
+  id = art_.originalOf(id);
   if (id == 0 || id > drawing_.originalArt.size()) return nullptr;
   const Art& art = drawing_.originalArt[id - 1];
   return art.alive ? &art : nullptr;
 }
 
 const Layer* SvgChanges::originalLayer(LayerId id) const {
+  id = layers_.originalOf(id);
   if (id == 0 || id > drawing_.originalLayers.size()) return nullptr;
   const Layer& layer = drawing_.originalLayers[id - 1];
   return layer.alive ? &layer : nullptr;
+}
+
+std::vector<LayerId> SvgChanges::originalLayers() const {
+  std::vector<LayerId> layers = drawing_.originalState.layers;
+  for (LayerId& id : layers) id = layers_.heirOf(id);
+  return layers;
 }
 
 NodeIndex SvgChanges::originalElementOf(ArtId id) const {
@@ -84,7 +121,9 @@ NodeIndex SvgChanges::elementOf(ArtId id) const {
 std::vector<ArtId> SvgChanges::originalChildren(ArtId id) const {
   std::vector<ArtId> list;
   const Art* const art = original(id);
-  for (ArtId at = art ? art->lastChild : 0; at != 0; at = original(at)->above) list.push_back(at);
+  for (ArtId at = art ? art->lastChild : 0; at != 0; at = original(at)->above) {
+    list.push_back(heirOf(at));
+  }
   return list;
 }
 

@@ -42,11 +42,20 @@ void SvgEditPlan::cut(NodeIndex element) {
   edits_.push_back({begin, end, {}});
 }
 
-std::string SvgEditPlan::apply(const SvgPrefixes& prefixes) {
+void SvgEditPlan::sort() {
   std::stable_sort(edits_.begin(), edits_.end(), [](const Edit& a, const Edit& b) {
     if (a.begin != b.begin) return a.begin < b.begin;
     return a.begin == a.end && b.begin != b.end;
   });
+}
+
+std::string SvgEditPlan::elementText(NodeIndex element, const SvgPrefixes& prefixes) {
+  sort();
+  return text(element, prefixes);
+}
+
+std::string SvgEditPlan::apply(const SvgPrefixes& prefixes) {
+  sort();
   return source_.splice(resolved(0, source_.bytes().size(), prefixes));
 }
 

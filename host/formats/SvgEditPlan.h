@@ -40,6 +40,8 @@ class SvgEditPlan {
   void insert(std::size_t offset, SvgNewContent content);  // several at one place keep their order
   void cut(NodeIndex element);
 
+  // One element with the edits in it.
+  std::string elementText(NodeIndex element, const SvgPrefixes& prefixes);
   // The file with all edits done.
   std::string apply(const SvgPrefixes& prefixes);
 
@@ -50,6 +52,7 @@ class SvgEditPlan {
     SvgNewContent content;
   };
 
+  void sort();
   std::vector<SvgEdit> resolved(std::size_t begin, std::size_t end, const SvgPrefixes& prefixes) const;
   std::string text(const SvgNewContent& content, const SvgPrefixes& prefixes) const;
   std::string text(NodeIndex moved, const SvgPrefixes& prefixes) const;

@@ -12,11 +12,10 @@ namespace host {
 void SvgLayerWriter::write() {
   cutLost();
   const DocumentState& state = writing_.document.state();
-  const DocumentState& before = writing_.drawing.originalState;
+  const std::vector<LayerId> before = writing_.changes.originalLayers();
   // From the bottom up, as in the file.
   const std::vector<LayerId> now(state.layers.rbegin(), state.layers.rend());
-  const std::vector<bool> inPlace =
-      entriesInPlace(now, keepable({before.layers.rbegin(), before.layers.rend()}));
+  const std::vector<bool> inPlace = entriesInPlace(now, keepable({before.rbegin(), before.rend()}));
   std::vector<LayerId> run;
   LayerId below = 0;
   for (std::size_t i = 0; i < now.size(); ++i) {
@@ -79,7 +78,7 @@ bool SvgLayerWriter::isTakenForLayers(LayerId loose) const {
 // layers that it lies below?
 bool SvgLayerWriter::isHomeless(LayerId loose) const {
   const ArtId root = writing_.document.layer(loose)->root;
-  const auto& layers = writing_.drawing.originalState.layers;
+  const std::vector<LayerId> layers = writing_.changes.originalLayers();
   const std::vector<ArtId> before = writing_.changes.originalChildren(root);
   if (layers.size() == 1 || before.empty()) return false;
   const NodeIndex first = arts_.lowestInPlace(root);
@@ -102,7 +101,7 @@ std::vector<LayerId> SvgLayerWriter::keepable(std::vector<LayerId> layers) const
 }
 
 void SvgLayerWriter::cutLost() {
-  for (const LayerId id : writing_.drawing.originalState.layers) {
+  for (const LayerId id : writing_.changes.originalLayers()) {
     const NodeIndex element = writing_.changes.originalLayer(id)->source;
     const bool lost = !writing_.document.layer(id) && element != 0 && !isLoose(id);
     if (lost && writing_.canEdit(element)) writing_.plan.cut(element);

@@ -1,6 +1,7 @@
 #include "SvgPaints.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 
 #include "Geometry.h"
@@ -43,6 +44,22 @@ bool isTrue(std::optional<std::string_view> value) {
   return value == "true" || value == "1";
 }
 
+double roundedTo9Digits(double value) {
+  char digits[32];
+  const auto written = std::to_chars(digits, digits + sizeof digits, value, std::chars_format::general, 9);
+  std::from_chars(digits, written.ptr, value);
+  return value;
+}
+
+// A width is written divided by the scale of its place. Where that and its way back have changed the last
+// bits of a plain number of points, it becomes this number again: programs tell lines by their exact widths.
+double withoutNoise(double width, double pointsPerUnit) {
+  constexpr double kNoise = 1e-13;
+  const double points = width * pointsPerUnit;
+  const double plain = roundedTo9Digits(points);
+  return std::abs(plain - points) <= kNoise * std::abs(points) ? plain / pointsPerUnit : width;
+}
+
 }  // namespace
 
 SvgPaints::SvgPaints(const SvgSource& source, const SvgCascade& cascade, SvgRemarks& remarks,
@@ -78,7 +95,7 @@ void SvgPaints::setStroke(const SvgStyle& style, const AIRealMatrix& documentFro
   const double scale =
       style.nonScalingStroke ? unitsPerPixel_ : std::sqrt(std::abs(determinant(documentFromUser)));
   const std::size_t dashes = std::min(style.dashCount, style.dashes.size());
-  stroke.width = style.strokeWidth * scale;
+  stroke.width = withoutNoise(style.strokeWidth * scale, document_.scale());
   stroke.dash.length = static_cast<std::int16_t>(dashes);
   stroke.dash.offset = style.dashOffset * scale;
   for (std::size_t i = 0; i < dashes; ++i) stroke.dash.array[i] = style.dashes[i] * scale;

@@ -24,6 +24,17 @@ using RsvgPointer = std::unique_ptr<RsvgHandle, ObjectUnref>;
 using SurfacePointer = std::unique_ptr<cairo_surface_t, SurfaceDestroy>;
 using ContextPointer = std::unique_ptr<cairo_t, ContextDestroy>;
 
+// A buffer to draw on.
+struct Target {
+  explicit Target(const PixelBuffer& pixels)
+      : surface(cairo_image_surface_create_for_data(pixels.bytes, CAIRO_FORMAT_ARGB32, pixels.width,
+                                                    pixels.height, pixels.stride)),
+        context(cairo_create(surface.get())) {}
+
+  const SurfacePointer surface;
+  const ContextPointer context;
+};
+
 std::string takeMessage(GError* error) {
   std::string text = error != nullptr ? error->message : "it could not be drawn";
   g_clear_error(&error);
@@ -48,23 +59,15 @@ void setRootAttribute(const SvgSource& source, std::vector<SvgEdit>& edits, std:
   edits.push_back({at, at, " " + std::string(name) + "=\"" + value + "\""});
 }
 
-// The root element shows the first artboard only. With several, its view is widened to all of them; with
-// one it stays as it is, since sizes in percent refer to it.
-std::string showAllArtboards(const SvgDrawing& drawing, std::string svg) {
-  AIRealMatrix rootFromDocument{};
-  if (drawing.document->state().artboards.size() < 2) return svg;
-  if (!invert(drawing.documentFromRoot, rootFromDocument)) return svg;
+std::string showPart(std::string svg, const PixelRect& part, const AIRealRect& bounds) {
   auto parsed = SvgSource::parse(std::move(svg));
   const auto& source = *std::get<std::unique_ptr<SvgSource>>(parsed);
-  const AIRealRect all = unionOfArtboards(*drawing.document);
-  const AIRealPoint from = apply(rootFromDocument, {all.left, all.top});
-  const AIRealPoint to = apply(rootFromDocument, {all.right, all.bottom});
   std::vector<SvgEdit> edits;
   setRootAttribute(
       source, edits, "viewBox",
-      number(from.x) + " " + number(from.y) + " " + number(to.x - from.x) + " " + number(to.y - from.y));
-  setRootAttribute(source, edits, "width", number(all.right - all.left) + "pt");
-  setRootAttribute(source, edits, "height", number(all.top - all.bottom) + "pt");
+      number(part.x) + " " + number(part.y) + " " + number(part.width) + " " + number(part.height));
+  setRootAttribute(source, edits, "width", number(bounds.right - bounds.left) + "pt");
+  setRootAttribute(source, edits, "height", number(bounds.top - bounds.bottom) + "pt");
   setRootAttribute(source, edits, "preserveAspectRatio", "none");
   return source.splice(std::move(edits));
 }
@@ -92,31 +95,51 @@ SvgPicture::SvgPicture(SvgPicture&&) noexcept = default;
 SvgPicture& SvgPicture::operator=(SvgPicture&&) noexcept = default;
 SvgPicture::~SvgPicture() = default;
 
-std::variant<SvgPicture, std::string> SvgPicture::load(const SvgDrawing& drawing, std::string svg,
-                                                       const std::filesystem::path& file) {
-  const std::string shown = showAllArtboards(drawing, std::move(svg));
+std::variant<SvgPicture, std::string> SvgPicture::load(SvgPictureSource source) {
+  if (source.shownPart) source.svg = showPart(std::move(source.svg), *source.shownPart, source.bounds);
   GError* error = nullptr;
-  auto handle = std::make_unique<Handle>(Handle{loadSvg(shown, file, &error)});
+  auto handle = std::make_unique<Handle>(Handle{loadSvg(source.svg, source.file, &error)});
   if (!handle->rsvg) return takeMessage(error);
-  return SvgPicture(std::move(handle), unionOfArtboards(*drawing.document));
+  return SvgPicture(std::move(handle), source.bounds);
 }
 
 std::string SvgPicture::draw(const PixelBuffer& pixels, const PixelRect& place) const {
-  const SurfacePointer surface(cairo_image_surface_create_for_data(
-      pixels.bytes, CAIRO_FORMAT_ARGB32, pixels.width, pixels.height, pixels.stride));
-  const ContextPointer context(cairo_create(surface.get()));
-  cairo_rectangle(context.get(), place.x, place.y, place.width, place.height);
-  cairo_clip(context.get());
-  cairo_set_source_rgb(context.get(), 1, 1, 1);
-  cairo_paint(context.get());
+  {
+    const Target target(pixels);
+    cairo_rectangle(target.context.get(), place.x, place.y, place.width, place.height);
+    cairo_set_source_rgb(target.context.get(), 1, 1, 1);
+    cairo_fill(target.context.get());
+    cairo_surface_flush(target.surface.get());
+  }
+  return drawOver(pixels, place);
+}
+
+std::string SvgPicture::drawOver(const PixelBuffer& pixels, const PixelRect& place) const {
+  const Target target(pixels);
+  cairo_rectangle(target.context.get(), place.x, place.y, place.width, place.height);
+  cairo_clip(target.context.get());
   const RsvgRectangle viewport{place.x, place.y, place.width, place.height};
   GError* error = nullptr;
-  if (!rsvg_handle_render_document(handle_->rsvg.get(), context.get(), &viewport, &error)) {
+  if (!rsvg_handle_render_document(handle_->rsvg.get(), target.context.get(), &viewport, &error)) {
     return takeMessage(error);
   }
-  cairo_surface_flush(surface.get());
-  const cairo_status_t status = cairo_status(context.get());
+  cairo_surface_flush(target.surface.get());
+  const cairo_status_t status = cairo_status(target.context.get());
   return status == CAIRO_STATUS_SUCCESS ? std::string() : cairo_status_to_string(status);
+}
+
+// The root element shows the first artboard only. With several, its view is widened to all of them; with
+// one it stays as it is, since sizes in percent refer to it.
+SvgPictureSource pictureSource(const SvgDrawing& drawing, std::string svg,
+                               const std::filesystem::path& file) {
+  SvgPictureSource source{std::move(svg), file, unionOfArtboards(*drawing.document), std::nullopt};
+  AIRealMatrix rootFromDocument{};
+  if (drawing.document->state().artboards.size() < 2) return source;
+  if (!invert(drawing.documentFromRoot, rootFromDocument)) return source;
+  const AIRealPoint from = apply(rootFromDocument, {source.bounds.left, source.bounds.top});
+  const AIRealPoint to = apply(rootFromDocument, {source.bounds.right, source.bounds.bottom});
+  source.shownPart = PixelRect{from.x, from.y, to.x - from.x, to.y - from.y};
+  return source;
 }
 
 AIRealRect unionOfArtboards(const Document& document) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 
@@ -25,14 +26,23 @@ struct PixelRect {
   double x, y, width, height;
 };
 
+// What a picture is made of, by value: it may be taken to another thread while the drawing goes on changing.
+struct SvgPictureSource {
+  std::string svg;
+  std::filesystem::path file;          // where it lies, for the images it links to; may be empty
+  AIRealRect bounds{};                 // of all artboards together, document units
+  std::optional<PixelRect> shownPart;  // units of the root element, which shows this; nullopt: what it says
+};
+
+// `svg` is the file as it would be saved.
+SvgPictureSource pictureSource(const SvgDrawing& drawing, std::string svg, const std::filesystem::path& file);
+
 // A drawing as it was when it was loaded, to be drawn any number of times: all artboards as they lie beside
-// each other, on white.
+// each other. May be used by any thread, though by one at a time.
 class SvgPicture {
  public:
-  // `svg` is the file as it would be saved; `file` is where it lies, for the images it links to, and may be
-  // empty. The error is a clause without a full stop.
-  static std::variant<SvgPicture, std::string> load(const SvgDrawing& drawing, std::string svg,
-                                                    const std::filesystem::path& file);
+  // The error is a clause without a full stop.
+  static std::variant<SvgPicture, std::string> load(SvgPictureSource source);
   SvgPicture(SvgPicture&&) noexcept;
   SvgPicture& operator=(SvgPicture&&) noexcept;
   ~SvgPicture();
@@ -40,8 +50,10 @@ class SvgPicture {
   // What is drawn, in document units.
   const AIRealRect& bounds() const { return bounds_; }
 
-  // Draws the whole into `place`; pixels outside it stay. Empty, or a clause on why not.
+  // Draws the whole into `place`, on white or over what is there; pixels outside it stay. Empty, or a clause
+  // on why not.
   std::string draw(const PixelBuffer& pixels, const PixelRect& place) const;
+  std::string drawOver(const PixelBuffer& pixels, const PixelRect& place) const;
 
  private:
   struct Handle;

@@ -34,6 +34,7 @@ enum class SvgProperty : std::uint8_t {
   MarkerMid,
   MarkerStart,
   Mask,
+  Opacity,
   Overflow,
   R,
   Rx,

@@ -22,6 +22,7 @@ SvgStyle inheritedStyle(const SvgStyle& parent) {
   style.displayed = initial.displayed;
   style.nonScalingStroke = initial.nonScalingStroke;
   style.overflows = initial.overflows;
+  style.opacity = initial.opacity;
   style.masked = initial.masked;
   style.filtered = initial.filtered;
   style.clipPath = initial.clipPath;

@@ -60,6 +60,7 @@ struct SvgStyle {
   bool displayed = true;
   bool nonScalingStroke = false;
   bool overflows = false;
+  double opacity = 1;  // of the element as a whole
   bool masked = false;
   bool filtered = false;
   std::string_view clipPath;  // empty: none

@@ -63,6 +63,8 @@ bool SvgStyleComputer::set(SvgProperty property, std::string_view value) {
       return setOpacity(style_.fillOpacity, value);
     case SvgProperty::StrokeOpacity:
       return setOpacity(style_.strokeOpacity, value);
+    case SvgProperty::Opacity:
+      return setOpacity(style_.opacity, value);
     case SvgProperty::Color:
       return setColour(value);
     case SvgProperty::FillRule:

@@ -10,6 +10,7 @@
 #include "BundleLookup.h"
 #include "NormalForm.h"
 #include "PreferredLanguages.h"
+#include "SharedDataFolder.h"
 
 namespace {
 
@@ -49,4 +50,10 @@ bool CopyBundleResourcePath(const char* bundle, const char* name, const char* ex
   const std::optional<std::string> file =
       host::fileInFolder(*folder, name, extension != nullptr ? extension : "");
   return file && copyText(*file, path, size);
+}
+
+bool FSFindFolder(std::int16_t domain, std::uint32_t type, char* path, std::size_t size) {
+  if (domain != kLocalDomain || type != kSharedUserDataFolderType) return false;
+  const std::string folder = host::sharedDataFolder();
+  return !folder.empty() && copyText(folder, path, size);
 }

@@ -38,6 +38,8 @@ std::string ownFolder(const std::string& base, const char* name) {
 Folders userFolders() {
   Folders folders;
   folders.configuration = ownFolder(baseFolder("XDG_CONFIG_HOME", "/.config"), "");
+  folders.state = ownFolder(baseFolder("XDG_STATE_HOME", "/.local/state"), "");
+  folders.userData = ownFolder(baseFolder("XDG_DATA_HOME", "/.local/share"), "");
   folders.userPlugins = ownFolder(baseFolder("XDG_DATA_HOME", "/.local/share"), "/plug-ins");
   return folders;
 }

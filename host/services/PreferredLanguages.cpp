@@ -3,11 +3,24 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <utility>
 
 namespace host {
 namespace {
 
 constexpr std::size_t kLongestSubtag = 8;
+constexpr char kVariable[] = "LANGUAGE";
+
+// What the variable was before the program set it.
+struct Replaced {
+  bool isReplaced = false;
+  std::optional<std::string> value;
+};
+
+Replaced& languageOfSystem() {
+  static Replaced value;
+  return value;
+}
 
 // Of ASCII alone, whatever the locale.
 bool isLetter(char c) {
@@ -49,7 +62,7 @@ std::string_view takeUntil(std::string_view& rest, std::string_view separators) 
 }
 
 std::string_view wishes() {
-  for (const char* variable : {"LANGUAGE", "LC_ALL", "LC_MESSAGES", "LANG"}) {
+  for (const char* variable : {kVariable, "LC_ALL", "LC_MESSAGES", "LANG"}) {
     const char* value = std::getenv(variable);
     if (value != nullptr && value[0] != '\0') return value;
   }
@@ -88,9 +101,23 @@ std::vector<std::string> preferredLanguages() {
 }
 
 void preferLanguage(std::string_view tag) {
+  if (!languageOfSystem().isReplaced) {
+    const char* value = std::getenv(kVariable);
+    languageOfSystem() = {true, value != nullptr ? std::optional<std::string>(value) : std::nullopt};
+  }
   std::string name(tag);
   std::replace(name.begin(), name.end(), '-', '_');  // as other readers of the variable expect it
-  setenv("LANGUAGE", name.c_str(), 1);
+  setenv(kVariable, name.c_str(), 1);
+}
+
+void preferSystemLanguages() {
+  const Replaced before = std::exchange(languageOfSystem(), {});
+  if (!before.isReplaced) return;
+  if (before.value) {
+    setenv(kVariable, before.value->c_str(), 1);
+  } else {
+    unsetenv(kVariable);
+  }
 }
 
 }  // namespace host

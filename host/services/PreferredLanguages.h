@@ -21,8 +21,10 @@ std::string_view primaryLanguage(std::string_view tag);
 // gettext, LANGUAGE also counts in the locale "C". Entries that name no language are skipped.
 std::vector<std::string> preferredLanguages();
 
-// Makes a language the only preferred one, for this process and those it starts. Call it before other
-// threads run: they may be reading the environment.
+// Makes a language the only preferred one, for this process and those it starts. Not while other threads may
+// be reading the environment.
 void preferLanguage(std::string_view tag);
+// Takes back what preferLanguage has done, however often: the environment tells as it told at the start.
+void preferSystemLanguages();
 
 }  // namespace host

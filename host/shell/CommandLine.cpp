@@ -82,7 +82,8 @@ void addMarks(CLI::App& app, MarksArguments& marks) {
   command->add_option("--shape", marks.shape, "round or cross (round)")
       ->transform(CLI::CheckedTransformer(shapes).description(""));
   addLength(*command, "--size", marks.size, "Diameter of a round mark, bar length of a cross (6mm)");
-  addLength(*command, "--weight", marks.weight, "Stroke of a round mark, bar thickness of a cross (1mm)");
+  addLength(*command, "--weight", marks.weight,
+            "Bar thickness of a cross, 1mm if it is 0; a round mark has no stroke (1mm)");
   command->add_option("--amount", marks.amount, "Few to Many, for auto (0.5)")
       ->check(CLI::Range(0.0, 1.0))
       ->type_name("0..1");
@@ -90,9 +91,11 @@ void addMarks(CLI::App& app, MarksArguments& marks) {
 }
 
 void addExport(CLI::App& app, ExportArguments& arguments) {
-  CLI::App* command = app.add_subcommand("export", "Write a drawing as PNG or SVG");
+  CLI::App* command = app.add_subcommand("export", "Write a drawing as PDF, PNG or SVG");
   command->add_option("INPUT", arguments.input, "SVG drawing; - is standard input")->required();
-  command->add_option("-o,--output", arguments.output, "FILE.png or FILE.svg")->required()->type_name("FILE");
+  command->add_option("-o,--output", arguments.output, "FILE.pdf, FILE.png or FILE.svg")
+      ->required()
+      ->type_name("FILE");
 }
 
 void addInfo(CLI::App& app, InfoArguments& arguments) {

@@ -17,9 +17,9 @@ enum ExitCode : int {
 };
 
 struct CommonOptions {
-  std::string plugin;    // folder of the bundle; empty: the one beside the program
-  std::string language;  // a tag such as "pt-BR"; empty: as the environment says
-  std::string theme = "light";
+  std::string plugin;                    // folder of the bundle; empty: the one beside the program
+  std::string language;                  // a tag such as "pt-BR"; empty: as the environment says
+  std::string theme;                     // "light" or "dark"; empty: the one chosen last
   std::vector<std::string> preferences;  // PREFIX/SUFFIX=VALUE, for this run only
   std::vector<std::string> refuse;
   std::size_t refuseNth = 0;  // 0: none

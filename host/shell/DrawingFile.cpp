@@ -31,16 +31,22 @@ std::string shownName(const std::string& file) {
   return file == kStandardStream ? "standard input" : file;
 }
 
-std::variant<SvgDrawing, std::string> openDrawing(const std::string& file) {
+std::variant<SvgDrawing, std::string> readDrawing(const std::string& file) {
   std::string reason;
   std::optional<std::string> bytes = readInput(file, reason);
-  if (!bytes) return "cannot open " + shownName(file) + ": " + reason;
+  if (!bytes) return reason;
   const QtTextOutliner outliner;
   auto read = readSvg(std::move(*bytes), &outliner);
-  if (const SvgError* error = std::get_if<SvgError>(&read)) {
-    return "cannot open " + shownName(file) + ": " + placeOf(*error) + error->reason;
-  }
+  if (const SvgError* error = std::get_if<SvgError>(&read)) return placeOf(*error) + error->reason;
   return std::move(std::get<SvgDrawing>(read));
+}
+
+std::variant<SvgDrawing, std::string> openDrawing(const std::string& file) {
+  auto read = readDrawing(file);
+  if (std::string* reason = std::get_if<std::string>(&read)) {
+    reason->insert(0, "cannot open " + shownName(file) + ": ");
+  }
+  return read;
 }
 
 std::string saveBytes(const std::string& file, std::string_view bytes) {

@@ -12,7 +12,9 @@ namespace host {
 
 constexpr char kStandardStream[] = "-";
 
-// The error is a sentence that names the file, the place in it and the reason.
+// The error is a clause with the place in the file and the reason.
+std::variant<SvgDrawing, std::string> readDrawing(const std::string& file);
+// The error is a sentence that names the file too.
 std::variant<SvgDrawing, std::string> openDrawing(const std::string& file);
 
 // Replaces the file as a whole, or not at all. Empty, or a sentence on why not.

@@ -126,6 +126,11 @@ Json remarksAsJson(const SvgDrawing& drawing) {
 
 }  // namespace
 
+std::string remarkLine(const SvgRemark& remark) {
+  return "line " + std::to_string(remark.position.line) + ", <" + remark.element + ">" +
+         (remark.id.empty() ? "" : " \"" + remark.id + "\"") + ": " + remark.reason;
+}
+
 std::string shortNumber(double value) {
   std::array<char, 32> buffer{};
   return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
@@ -192,8 +197,7 @@ std::string reportAsText(const SvgDrawing& drawing, const std::string& name) {
   }
   if (!drawing.remarks.empty()) text += "Not understood, or assumed:\n";
   for (const SvgRemark& remark : drawing.remarks) {
-    text += "  line " + std::to_string(remark.position.line) + ", <" + remark.element + ">" +
-            (remark.id.empty() ? "" : " \"" + remark.id + "\"") + ": " + remark.reason + "\n";
+    text += "  " + remarkLine(remark) + "\n";
   }
   return text;
 }

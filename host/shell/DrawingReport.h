@@ -11,6 +11,9 @@ namespace host {
 std::string reportAsText(const SvgDrawing& drawing, const std::string& name);
 std::string reportAsJson(const SvgDrawing& drawing, const std::string& name);
 
+// A remark in one line, such as: line 3, <path> "p1": the path data is broken
+std::string remarkLine(const SvgRemark& remark);
+
 // A number as short as it reads back to the same, such as "0.1".
 std::string shortNumber(double value);
 

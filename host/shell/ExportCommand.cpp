@@ -1,17 +1,17 @@
-#include <filesystem>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "Commands.h"
 #include "Complain.h"
+#include "DrawingExport.h"
 #include "DrawingFile.h"
-#include "PngExport.h"
 
 namespace host {
 
 ExitCode runExport(const ExportArguments& arguments) {
-  const std::string kind = std::filesystem::path(arguments.output).extension().string();
-  if (kind != ".png" && kind != ".svg") {
-    complain("cannot tell what to write from the name " + arguments.output + "; name it .png or .svg");
+  if (exportFormatOf(arguments.output) == nullptr) {
+    complain("cannot tell what to write from the name " + arguments.output + "; name it " + exportEnds());
     return kExitUsage;
   }
   auto opened = openDrawing(arguments.input);
@@ -19,24 +19,17 @@ ExitCode runExport(const ExportArguments& arguments) {
     complain(*reason);
     return kExitCouldNot;
   }
-  const SvgDrawing& drawing = std::get<SvgDrawing>(opened);
-  std::string bytes = writeSvg(drawing);
-  if (kind == ".png") {
-    PngOptions options;
-    if (arguments.input != kStandardStream) options.file = arguments.input;
-    auto picture = renderPng(drawing, std::move(bytes), options);
-    if (const std::string* reason = std::get_if<std::string>(&picture)) {
-      complain("cannot draw " + shownName(arguments.input) + ": " + *reason);
-      return kExitCouldNot;
-    }
-    bytes = std::move(std::get<PngPicture>(picture).bytes);
-  }
-  const std::string reason = saveBytes(arguments.output, bytes);
+  const std::string name = shownName(arguments.input);
+  const std::string place = arguments.input == kStandardStream ? std::string() : arguments.input;
+  std::vector<std::string> remarks;
+  const std::string reason =
+      exportDrawing(std::get<SvgDrawing>(opened), name, place, arguments.output, remarks);
   if (!reason.empty()) {
     complain(reason);
     return kExitCouldNot;
   }
-  std::cerr << shownName(arguments.input) << ": exported to " << arguments.output << '\n';
+  for (const std::string& remark : remarks) std::cerr << name << ": " << remark << '\n';
+  std::cerr << name << ": exported to " << arguments.output << '\n';
   return kExitDone;
 }
 

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 
+#include "DrawingExport.h"
+
 namespace host {
 namespace {
 
@@ -15,19 +17,39 @@ std::vector<std::string> askToOpen(QWidget* parent) {
   return files;
 }
 
-std::string askToSave(QWidget* parent, const std::string& proposed) {
-  QFileDialog dialog(parent, "Save As", {}, kDrawings);
+std::string askWhere(QFileDialog& dialog, const std::string& proposed) {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix("svg");
   dialog.selectFile(QString::fromStdString(proposed));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return dialog.selectedFiles().front().toStdString();
 }
 
+std::string askToSave(QWidget* parent, const std::string& proposed) {
+  QFileDialog dialog(parent, "Save As", {}, kDrawings);
+  dialog.setDefaultSuffix("svg");
+  return askWhere(dialog, proposed);
+}
+
+// A name without an end gets that of the format that the user has chosen.
+std::string askToExport(QWidget* parent, const std::string& proposed) {
+  QStringList filters;
+  for (const ExportFormat& format : exportFormats()) {
+    filters << QString("%1 (*%2)").arg(format.name, format.end);
+  }
+  QFileDialog dialog(parent, "Export", {}, filters.join(";;"));
+  const auto follow = [&dialog, filters](const QString& filter) {
+    const auto chosen = static_cast<std::size_t>(qMax(0, filters.indexOf(filter)));
+    dialog.setDefaultSuffix(QString(exportFormats()[chosen].end).mid(1));
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, follow);
+  follow(filters.front());
+  return askWhere(dialog, proposed);
+}
+
 }  // namespace
 
 FileChooser dialogFileChooser() {
-  return {askToOpen, askToSave};
+  return {askToOpen, askToSave, askToExport};
 }
 
 }  // namespace host

@@ -16,6 +16,8 @@ struct FileChooser {
   // Where to save what has the path or name `proposed`; empty if the user thought better of it. To replace
   // a file that is there has been agreed to.
   std::function<std::string(QWidget* parent, const std::string& proposed)> toSave;
+  // The same for what is written in another format, which the name's end tells.
+  std::function<std::string(QWidget* parent, const std::string& proposed)> toExport;
 };
 
 FileChooser dialogFileChooser();

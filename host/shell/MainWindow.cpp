@@ -5,10 +5,10 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QUrl>
 #include <utility>
 
-#include "AINotifier.h"
 #include "AlertBox.h"
 #include "DrawingTabs.h"
 #include "DrawingView.h"
@@ -16,16 +16,14 @@
 #include "Host.h"
 #include "HostWindow.h"
 #include "ProgramName.h"
+#include "RecoverLost.h"
 #include "Session.h"
-#include "ThemeActions.h"
-#include "UnsavedQuestion.h"
+#include "WindowPlace.h"
 
 namespace host {
 namespace {
 
-constexpr int kWidth = 1100;
-constexpr int kHeight = 720;
-constexpr char kOpenKeys[] = "Ctrl+O";
+constexpr char kRecoveryFolder[] = "/recovery";
 
 std::vector<std::string> localFiles(const QMimeData& data) {
   std::vector<std::string> files;
@@ -35,18 +33,19 @@ std::vector<std::string> localFiles(const QMimeData& data) {
   return files;
 }
 
-// An action's text with the step that it undoes or redoes.
-QString withStep(const char* text, const std::string& step) {
-  return (QString(text) + " " + QString::fromStdString(step).replace('&', "&&")).trimmed();
+// Empty if the application has no folder for it.
+std::string recoveryRoot(const Host& host) {
+  const std::string& state = host.folders().state;
+  return state.empty() ? state : state + kRecoveryFolder;
 }
 
 }  // namespace
 
-MainWindow::MainWindow(Host& host, Session& session, FileChooser chooser)
+MainWindow::MainWindow(Host& host, Session& session, FileChooser chooser, const std::string& language)
     : host_(host),
       session_(session),
       workspace_(host, session),
-      chooser_(std::move(chooser)),
+      settings_(host.preferences()),
       menus_(*menuBar(), host,
              {[this](AIMenuItemHandle item) { session_.updateMenuItem(item); },
               [this](AIMenuItemHandle item) { chooseMenuItem(item); }}),
@@ -55,22 +54,27 @@ MainWindow::MainWindow(Host& host, Session& session, FileChooser chooser)
               [this](bool drawingHasChanged) { toolDone(drawingHasChanged); },
               [this](const std::string& title, SPErr code) { tellFailure(title, code); }}),
       panels_(*this, host, [this] { refreshLater(); }),
-      pickers_(host, *this) {
+      panelAction_(host.contexts()),
+      pickers_(host, *this),
+      tabs_(makeTabs()),
+      parts_(makeParts()),
+      autosave_(workspace_, recoveryRoot(host), settings_.autosaveSeconds()),
+      files_(parts_, autosave_, std::move(chooser)),
+      edits_(parts_),
+      views_(parts_),
+      looks_(parts_, language),
+      status_(*statusBar(), [this] { return parts_.view(); }),
+      hostPanels_(*this, host, session,
+                  {[this] { refreshLater(); },
+                   [this](const AIRealRect& part) {
+                     if (DrawingView* view = parts_.view()) view->fit(part);
+                   }}) {
   setHostWindow(this);
   setAcceptDrops(true);
   setContextMenuPolicy(Qt::PreventContextMenu);
-  resize(kWidth, kHeight);
-  buildTabs();
-  buildActions();
-  host_.showAlert = [this](const Alert& alert) {
-    refresh();  // what the alert speaks of is to be seen
-    showAlertBox(alert, this);
-  };
-  host_.onViewChange = [this](const OpenDocument&) { tabs_->refresh(); };
-  host_.onPluginFailure = GuardedApplication::report;
-  host_.contexts().onEnd = [this] { refreshLater(); };
-  refreshTimer_.setSingleShot(true);
-  connect(&refreshTimer_, &QTimer::timeout, this, [this] { refreshDrawings(); });
+  makeActions();
+  followHost();
+  takePlace(*this, settings_);
   refresh();
 }
 
@@ -82,76 +86,66 @@ MainWindow::~MainWindow() {
   delete tabs_;  // the views go before the drawings they show
 }
 
-void MainWindow::buildTabs() {
-  const QString keys = QKeySequence(kOpenKeys).toString(QKeySequence::NativeText);
-  tabs_ = new DrawingTabs("Open a drawing with " + keys + ", or drop one here.", tools_,
-                          {[this](OpenDrawing& drawing) { turnedTo(drawing); },
-                           [this](OpenDrawing& drawing) {
-                             if (session_.takesCommands()) closeDrawing(drawing);
-                           }});
-  setCentralWidget(tabs_);
+DrawingTabs* MainWindow::makeTabs() {
+  const QString keys = QKeySequence("Ctrl+O").toString(QKeySequence::NativeText);
+  auto* tabs = new DrawingTabs("Open a drawing with " + keys + ", or drop one here.", tools_,
+                               {[this](OpenDrawing& drawing) { turnedTo(drawing); },
+                                [this](OpenDrawing& drawing) {
+                                  if (session_.takesCommands()) files_.close(drawing);
+                                },
+                                [this](OpenDrawing&) { refresh(); }});
+  setCentralWidget(tabs);
+  return tabs;
 }
 
-QAction* MainWindow::addCommand(const char* text, const QKeySequence& keys, void (MainWindow::*command)()) {
-  auto* action = new QAction(text, this);
-  action->setShortcut(keys);
-  addAction(action);  // its shortcut works whatever the menus hold
-  connect(action, &QAction::triggered, this, [this, command] {
-    if (session_.takesCommands()) (this->*command)();
-  });
-  return action;
+WindowParts MainWindow::makeParts() {
+  return {*this,
+          host_,
+          session_,
+          workspace_,
+          *tabs_,
+          menus_,
+          settings_,
+          [this] { refresh(); },
+          [this] {
+            if (onChoice) onChoice();
+          },
+          [this](const std::vector<std::string>& sentences) { tell(sentences); }};
 }
 
-void MainWindow::buildActions() {
-  QAction* open = addCommand("&Open...", QKeySequence(kOpenKeys), &MainWindow::open);
-  save_ = addCommand("&Save", QKeySequence("Ctrl+S"), &MainWindow::save);
-  saveAs_ = addCommand("Save &As...", QKeySequence("Ctrl+Shift+S"), &MainWindow::saveAs);
-  close_ = addCommand("&Close", QKeySequence("Ctrl+W"), &MainWindow::closeCurrent);
-  undo_ = addCommand("&Undo", QKeySequence("Ctrl+Z"), &MainWindow::undo);
-  redo_ = addCommand("&Redo", QKeySequence("Ctrl+Shift+Z"), &MainWindow::redo);
-  QAction* about = addCommand("&About corvane-host", {}, &MainWindow::about);
+void MainWindow::makeActions() {
   auto* quit = new QAction("&Quit", this);
   quit->setShortcut(QKeySequence("Ctrl+Q"));
   addAction(quit);
   connect(quit, &QAction::triggered, this, &QWidget::close);
-  menus_.setOwnItems("File Open", {open});
-  menus_.setOwnItems("File Save", {save_, saveAs_, close_});
   menus_.setOwnItems("File Quit", {quit});
-  menus_.setOwnItems("Edit Undo", {undo_, redo_});
-  menus_.setOwnItems("View Theme", makeThemeActions(*this, [this](Theme theme) { chooseTheme(theme); }));
-  menus_.setOwnItems("Help Menu", {about});
+  menus_.setOwnItems("Help Menu", {parts_.command("&About corvane-host", {}, [this] { about(); })});
+}
+
+void MainWindow::followHost() {
+  host_.showAlert = [this](const Alert& alert) {
+    refresh();  // what the alert speaks of is to be seen
+    showAlertBox(alert, this);
+  };
+  host_.onViewChange = [this](const OpenDocument&) { tabs_->refresh(); };
+  host_.onPluginFailure = GuardedApplication::report;
+  host_.contexts().onEnd = [this] { refreshLater(); };
+  refreshTimer_.setSingleShot(true);
+  connect(&refreshTimer_, &QTimer::timeout, this, [this] {
+    session_.tellChanges();
+    refreshDrawings();
+  });
 }
 
 // --- what the user does ---
 
-void MainWindow::open() {
-  openAndTell(chooser_.toOpen(this));
+std::vector<std::string> MainWindow::openFiles(const std::vector<std::string>& files) {
+  return files_.openFiles(files);
 }
 
-void MainWindow::save() {
-  if (OpenDrawing* drawing = workspace_.current()) saveOrAskWhere(*drawing);
-}
-
-void MainWindow::saveAs() {
-  OpenDrawing* drawing = workspace_.current();
-  if (drawing == nullptr) return;
-  const std::string& own = drawing->shown->file;
-  const std::string file = chooser_.toSave(this, own.empty() ? drawing->shown->title : own);
-  if (!file.empty()) saveTo(*drawing, file);
-}
-
-void MainWindow::closeCurrent() {
-  if (OpenDrawing* drawing = workspace_.current()) closeDrawing(*drawing);
-}
-
-void MainWindow::undo() {
-  if (OpenDrawing* drawing = workspace_.current()) drawing->document().undo();
-  refresh();
-}
-
-void MainWindow::redo() {
-  if (OpenDrawing* drawing = workspace_.current()) drawing->document().redo();
-  refresh();
+void MainWindow::offerLostDrawings() {
+  const std::string root = recoveryRoot(host_);
+  if (!root.empty()) offerLost(parts_, autosave_, root);
 }
 
 void MainWindow::about() {
@@ -173,25 +167,16 @@ void MainWindow::toolDone(bool drawingHasChanged) {
   if (onCommandDone) onCommandDone();
 }
 
-void MainWindow::chooseTheme(Theme theme) {
-  setTheme(theme);
-  session_.notify(kAIUIBrightnessChangedNotifier);
-  tools_.refresh();
-  panels_.refresh();
-}
-
 void MainWindow::tellFailure(const std::string& command, SPErr code) {
   tell({"The plug-in failed at \"" + command + "\" with code " + std::to_string(code) + "."});
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (!session_.takesCommands()) return;
-  for (const auto& drawing : workspace_.all()) {
-    if (!mayLose(*drawing)) return;
-  }
-  while (OpenDrawing* drawing = workspace_.current()) dropDrawing(*drawing);
+  if (!session_.takesCommands() || !files_.closeAll()) return;
+  hostPanels_.rememberForGood();
   panels_.rememberForGood();
+  rememberPlace(*this, settings_);
   event->accept();
 }
 
@@ -202,27 +187,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
   if (!session_.takesCommands()) return;
   event->acceptProposedAction();
-  openAndTell(localFiles(*event->mimeData()));
-}
-
-// --- files ---
-
-std::vector<std::string> MainWindow::openFiles(const std::vector<std::string>& files) {
-  std::vector<std::string> complaints;
-  for (const std::string& file : files) {
-    auto opened = workspace_.open(file);
-    if (std::string* reason = std::get_if<std::string>(&opened)) {
-      complaints.push_back(std::move(*reason));
-    } else {
-      tabs_->turnTo(*std::get<OpenDrawing*>(opened));
-    }
-  }
-  refresh();
-  return complaints;
-}
-
-void MainWindow::openAndTell(const std::vector<std::string>& files) {
-  tell(openFiles(files));
+  files_.openAndTell(localFiles(*event->mimeData()));
 }
 
 void MainWindow::tell(const std::vector<std::string>& sentences) {
@@ -235,44 +200,6 @@ void MainWindow::tell(const std::vector<std::string>& sentences) {
   showAlertBox({AlertKind::Error, text}, this);
 }
 
-bool MainWindow::saveTo(OpenDrawing& drawing, const std::string& file) {
-  const std::string reason = workspace_.save(drawing, file);
-  if (!reason.empty()) tell({reason});
-  refresh();
-  return reason.empty();
-}
-
-bool MainWindow::saveOrAskWhere(OpenDrawing& drawing) {
-  std::string file = drawing.shown->file;
-  if (file.empty()) file = chooser_.toSave(this, drawing.shown->title);
-  return !file.empty() && saveTo(drawing, file);
-}
-
-bool MainWindow::mayLose(OpenDrawing& drawing) {
-  if (!drawing.isModified()) return true;
-  tabs_->turnTo(drawing);
-  switch (askAboutUnsaved(titleOf(drawing), this)) {
-    case UnsavedAnswer::Save:
-      return saveOrAskWhere(drawing);
-    case UnsavedAnswer::Discard:
-      return true;
-    case UnsavedAnswer::Cancel:
-      break;
-  }
-  return false;
-}
-
-void MainWindow::closeDrawing(OpenDrawing& drawing) {
-  if (mayLose(drawing)) dropDrawing(drawing);
-}
-
-void MainWindow::dropDrawing(const OpenDrawing& drawing) {
-  tabs_->remove(drawing);
-  workspace_.close(drawing);
-  if (OpenDrawing* current = workspace_.current()) tabs_->turnTo(*current);
-  refresh();
-}
-
 // --- what the window shows ---
 
 void MainWindow::turnedTo(OpenDrawing& drawing) {
@@ -281,14 +208,22 @@ void MainWindow::turnedTo(OpenDrawing& drawing) {
 }
 
 void MainWindow::refresh() {
+  session_.tellChanges();
   tools_.refresh();
+  panels_.refresh();
   refreshDrawings();
 }
 
 void MainWindow::refreshDrawings() {
   tabs_->refresh();
   setFocusProxy(tabs_->drawings() > 0 ? &tabs_->viewAt(tabs_->current()) : nullptr);
-  refreshActions();
+  refreshTitle();
+  files_.refresh();
+  edits_.refresh();
+  views_.refresh();
+  looks_.refresh();
+  status_.refresh();
+  hostPanels_.refresh();
   listDocuments();
   listPanels();
   menus_.refresh();
@@ -298,19 +233,12 @@ void MainWindow::refreshLater() {
   refreshTimer_.start(0);
 }
 
-void MainWindow::refreshActions() {
+void MainWindow::refreshTitle() {
   const OpenDrawing* drawing = workspace_.current();
   const bool isOpen = drawing != nullptr;
   setWindowTitle(isOpen ? titleOf(*drawing).replace("[*]", "[*][*]") + "[*] \u2014 " + kProgramName
                         : QString(kProgramName));
   setWindowModified(isOpen && drawing->isModified());
-  for (QAction* action : {save_, saveAs_, close_}) action->setEnabled(isOpen);
-  const std::string undoName = isOpen ? drawing->document().undoName() : std::string();
-  const std::string redoName = isOpen ? drawing->document().redoName() : std::string();
-  undo_->setText(withStep("&Undo", undoName));
-  undo_->setEnabled(!undoName.empty());
-  redo_->setText(withStep("&Redo", redoName));
-  redo_->setEnabled(!redoName.empty());
 }
 
 void MainWindow::listDocuments() {
@@ -329,7 +257,7 @@ void MainWindow::listDocuments() {
 
 void MainWindow::listPanels() {
   for (QAction* action : panelItems_) action->deleteLater();
-  panelItems_ = panels_.makeActions();
+  panelItems_ = hostPanels_.makeActions() + panels_.makeActions();
   menus_.setOwnItems("Panels", panelItems_);
 }
 

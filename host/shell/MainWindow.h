@@ -7,27 +7,35 @@
 #include <string>
 #include <vector>
 
-#include "FileChooser.h"
+#include "Autosave.h"
+#include "EditCommands.h"
+#include "FileCommands.h"
+#include "HostPanels.h"
+#include "LookCommands.h"
 #include "MenuBar.h"
+#include "PanelAction.h"
 #include "PanelDesk.h"
 #include "Pickers.h"
-#include "Theme.h"
+#include "StatusLine.h"
 #include "ToolDesk.h"
+#include "ViewCommands.h"
+#include "WindowParts.h"
+#include "WindowSettings.h"
 #include "Workspace.h"
 
 namespace host {
 
-class DrawingTabs;
-
 class MainWindow : public QMainWindow {
  public:
-  // `host` and `session` must outlive the window. From construction to destruction the host's alerts come up
-  // as boxes over it.
-  MainWindow(Host& host, Session& session, FileChooser chooser);
+  // `host` and `session` must outlive the window. `language` is the tag of the one that the program speaks;
+  // empty: the environment's. From construction to destruction the host's alerts come up as boxes over it.
+  MainWindow(Host& host, Session& session, FileChooser chooser, const std::string& language = {});
   ~MainWindow() override;
 
   // Opens the files that can be opened. A sentence for each of the others.
   std::vector<std::string> openFiles(const std::vector<std::string>& files);
+  // Asks what is to become of the work that earlier runs have left behind, if there is any.
+  void offerLostDrawings();
   // One sentence each, in one box.
   void tell(const std::vector<std::string>& sentences);
   // To be called after documents or what plug-ins registered may have changed.
@@ -35,6 +43,8 @@ class MainWindow : public QMainWindow {
 
   // Called after every command.
   std::function<void()> onCommandDone;
+  // Called after a choice of the user that is to last: a good time to store the preferences.
+  std::function<void()> onChoice;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -42,31 +52,18 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void buildTabs();
-  void buildActions();
-  QAction* addCommand(const char* text, const QKeySequence& keys, void (MainWindow::*command)());
+  DrawingTabs* makeTabs();
+  WindowParts makeParts();
+  void makeActions();
+  void followHost();
 
-  void open();
-  void save();
-  void saveAs();
-  void closeCurrent();
-  void undo();
-  void redo();
   void about();
-  void chooseTheme(Theme theme);
   void chooseMenuItem(AIMenuItemHandle item);
   void toolDone(bool drawingHasChanged);
   void tellFailure(const std::string& command, SPErr code);
-
-  void openAndTell(const std::vector<std::string>& files);
-  bool saveTo(OpenDrawing& drawing, const std::string& file);
-  bool saveOrAskWhere(OpenDrawing& drawing);
-  bool mayLose(OpenDrawing& drawing);            // after asking what is to become of unsaved changes
-  void closeDrawing(OpenDrawing& drawing);       // after the same question
-  void dropDrawing(const OpenDrawing& drawing);  // unasked
   void turnedTo(OpenDrawing& drawing);
 
-  void refreshActions();
+  void refreshTitle();
   void refreshLater();  // what plug-ins may have changed outside messages
   void refreshDrawings();
   void listDocuments();
@@ -75,20 +72,24 @@ class MainWindow : public QMainWindow {
   Host& host_;
   Session& session_;
   Workspace workspace_;
-  FileChooser chooser_;
-  DrawingTabs* tabs_ = nullptr;
+  WindowSettings settings_;
   MenuBar menus_;
   ToolDesk tools_;
   PanelDesk panels_;
+  PanelAction panelAction_;
   Pickers pickers_;
-  QAction* save_ = nullptr;
-  QAction* saveAs_ = nullptr;
-  QAction* close_ = nullptr;
-  QAction* undo_ = nullptr;
-  QAction* redo_ = nullptr;
+  DrawingTabs* tabs_;
+  WindowParts parts_;
+  Autosave autosave_;
+  FileCommands files_;
+  EditCommands edits_;
+  ViewCommands views_;
+  LookCommands looks_;
+  StatusLine status_;
   QList<QAction*> documents_;  // those of the menu Window
   QList<QAction*> panelItems_;
   QTimer refreshTimer_;
+  HostPanels hostPanels_;
 };
 
 }  // namespace host

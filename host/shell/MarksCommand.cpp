@@ -91,8 +91,8 @@ class MarksRun {
     return kExitDone;
   }
 
-  // Anew for every drawing, since the product stores what it used. Empty, or a sentence on a preference that
-  // is none.
+  // Anew for every drawing, since the product stores what it used: its dialog opens with these options and
+  // is accepted as it stands. Empty, or a sentence on a preference that is none.
   std::string overlayOptions() {
     const auto overlay = [this](const char* key, PreferenceValue value) {
       host_.preferences().overlay(kMarksProduct.preferencePrefix, key, std::move(value));
@@ -102,6 +102,7 @@ class MarksRun {
     overlay(kMarksProduct.amountKey, arguments_.amount);
     overlay(kMarksProduct.shapeKey, static_cast<std::int32_t>(arguments_.shape) + 1);
     overlay(kMarksProduct.placementKey, static_cast<std::int32_t>(arguments_.placement) + 1);
+    overlay(kMarksProduct.notPlacedKey, std::int32_t{0});
     return overlayPreferences(host_, common_);
   }
 

@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <iterator>
 #include <utility>
 
 #include "Host.h"
@@ -27,11 +28,25 @@ void MenuBar::setOwnItems(const std::string& group, QList<QAction*> actions) {
 }
 
 void MenuBar::refresh() {
+  dropStale();
   for (const std::string& title : host_.menus().titles()) {
     QMenu& menu = *menuOf(title);
+    if (menu.isVisible()) continue;  // the user is on his way in it
     fill(menu, host_.menus().groupsOfMenu(title));
     menu.menuAction()->setVisible(!menu.isEmpty());
   }
+}
+
+void MenuBar::dropStale() {
+  const auto drop = [this](auto& made) {
+    for (auto entry = made.begin(); entry != made.end();) {
+      const bool isGone = host_.menus().items().find(entry->first) == nullptr;
+      if (isGone) entry->second->deleteLater();
+      entry = isGone ? made.erase(entry) : std::next(entry);
+    }
+  };
+  drop(submenus_);
+  drop(actions_);
 }
 
 QMenu* MenuBar::menuOf(const std::string& title) {

@@ -31,10 +31,11 @@ class MenuBar {
 
   // The application's own items at the head of one of its groups. Not owned; they replace those before.
   void setOwnItems(const std::string& group, QList<QAction*> actions);
-  // Fills all menus. A menu in which nothing stands is not in the bar.
+  // Fills all menus but those that are open. A menu in which nothing stands is not in the bar.
   void refresh();
 
  private:
+  void dropStale();  // of items that are gone
   QMenu* menuOf(const std::string& title);
   QMenu* submenuOf(const MenuItem& opener);
   QAction* actionOf(const MenuItem& item);

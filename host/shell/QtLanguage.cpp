@@ -10,20 +10,35 @@
 #include "PreferredLanguages.h"
 
 namespace host {
+namespace {
+
+constexpr char kName[] = "QtLanguage";
+
+// Null if Qt has no translation into it.
+QTranslator* translatorFor(const std::string& language, QCoreApplication& application) {
+  auto* translator = new QTranslator(&application);
+  translator->setObjectName(kName);
+  const QString name = "qtbase_" + QString::fromStdString(language).replace('-', '_');
+  const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+  if (translator->load(name, folder)) return translator;  // which also tries the name cut at its last "_"
+  delete translator;
+  return nullptr;
+}
+
+}  // namespace
 
 void speakPreferredLanguage(QCoreApplication& application) {
+  // What was spoken before ends with its translator.
+  qDeleteAll(application.findChildren<QTranslator*>(kName, Qt::FindDirectChildrenOnly));
   const std::vector<std::string> languages = preferredLanguages();
-  if (!languages.empty()) QLocale::setDefault(QLocale(QString::fromStdString(languages.front())));
-  const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+  QLocale::setDefault(languages.empty() ? QLocale::system()
+                                        : QLocale(QString::fromStdString(languages.front())));
   for (const std::string& language : languages) {
     if (primaryLanguage(language) == "en") return;  // what Qt speaks by itself
-    auto* translator = new QTranslator(&application);
-    const QString name = "qtbase_" + QString::fromStdString(language).replace('-', '_');
-    if (translator->load(name, folder)) {  // which also tries the name cut at its last "_"
+    if (QTranslator* translator = translatorFor(language, application)) {
       QCoreApplication::installTranslator(translator);
       return;
     }
-    delete translator;
   }
 }
 

@@ -14,9 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Beside the program as it was built, else where an installation puts it.
 fs::path defaultBundle() {
   std::error_code ignored;
-  return fs::read_symlink("/proc/self/exe", ignored).parent_path() / kMarksProduct.bundle;
+  const fs::path folder = fs::read_symlink("/proc/self/exe", ignored).parent_path();
+  const fs::path built = folder / kMarksProduct.bundle;
+  const fs::path installed = folder.parent_path() / "lib/corvane" / kMarksProduct.bundle;
+  return fs::exists(installed, ignored) && !fs::exists(built, ignored) ? installed : built;
 }
 
 }  // namespace

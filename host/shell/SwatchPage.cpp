@@ -4,7 +4,6 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "Document.h"
@@ -13,6 +12,7 @@
 #include "PaintComponents.h"
 #include "PaintText.h"
 #include "SliderField.h"
+#include "SwatchOrder.h"
 
 namespace host {
 namespace {
@@ -44,22 +44,14 @@ SwatchPage::SwatchPage(const Document* document, SwatchId first, PaintColours& c
 }
 
 void SwatchPage::fill(const Document& document, PaintColours& colours) {
-  const std::vector<SwatchGroupId>& groups = document.state().swatchGroups;
-  const auto listedGroup = [&](const Swatch& swatch) {
-    return std::find(groups.begin(), groups.end(), swatch.group) != groups.end() ? swatch.group : 0;
-  };
-  const auto addSwatchesOf = [&](SwatchGroupId group) {
-    for (const SwatchId id : document.state().swatches) {
-      const Swatch& swatch = *document.swatch(id);
-      if (listedGroup(swatch) != group) continue;
-      if (id == first_) firstRow_ = list_->count();
-      addPaint(QString::fromStdString(swatch.name), swatch.color, colours.shown(swatch.color));
+  for (const SwatchEntry& entry : listedSwatches(document)) {
+    if (entry.swatch == 0) {
+      addHeading(*document.swatchGroup(entry.group));
+      continue;
     }
-  };
-  addSwatchesOf(0);
-  for (const SwatchGroupId id : groups) {
-    addHeading(*document.swatchGroup(id));
-    addSwatchesOf(id);
+    const Swatch& swatch = *document.swatch(entry.swatch);
+    if (entry.swatch == first_) firstRow_ = list_->count();
+    addPaint(QString::fromStdString(swatch.name), swatch.color, colours.shown(swatch.color));
   }
 }
 

@@ -13,12 +13,14 @@
 #include "KeyModifiers.h"
 #include "MainWindow.h"
 #include "Platform.h"
+#include "PreferredLanguages.h"
 #include "ProgramName.h"
 #include "QtLanguage.h"
 #include "Session.h"
 #include "Startup.h"
 #include "Theme.h"
 #include "WindowPicture.h"
+#include "WindowSettings.h"
 
 namespace host {
 namespace {
@@ -61,12 +63,29 @@ class WindowRun {
       complain(wrong);
       return kExitUsage;
     }
-    MainWindow window(host_, session_, dialogFileChooser());
+    const std::string language = chooseLook();
+    MainWindow window(host_, session_, dialogFileChooser(), language);
     window.onCommandDone = [this] { refusals_.tell(host_); };
     return arguments_.screenshot.empty() ? stayOpen(window) : takePicture(window);
   }
 
  private:
+  // As the command line says, or else as it was chosen last. The tag of the language; empty: the
+  // environment's.
+  std::string chooseLook() {
+    const WindowSettings settings(host_.preferences());
+    const std::string language = common_.language.empty() ? settings.language() : common_.language;
+    if (!language.empty()) preferLanguage(language);
+    speakPreferredLanguage(*QCoreApplication::instance());
+    const bool isDark = common_.theme.empty() ? settings.theme() == Theme::Dark : common_.theme == "dark";
+    setTheme(isDark ? Theme::Dark : Theme::Light);
+    return language;
+  }
+
+  void storePreferences() {
+    if (const std::string reason = host_.preferences().save(); !reason.empty()) complain(reason);
+  }
+
   // What went wrong, a sentence each.
   std::vector<std::string> start(MainWindow& window) {
     std::vector<std::string> complaints;
@@ -75,16 +94,19 @@ class WindowRun {
     }
     refusals_.tell(host_);
     session_.start();
+    window.refresh();
     window.show();
+    if (arguments_.screenshot.empty()) window.offerLostDrawings();
     for (std::string& reason : window.openFiles(arguments_.files)) complaints.push_back(std::move(reason));
     return complaints;
   }
 
   ExitCode stayOpen(MainWindow& window) {
+    window.onChoice = [this] { storePreferences(); };
     window.tell(start(window));
     const int code = QApplication::exec();
     session_.shutdown();
-    if (const std::string reason = host_.preferences().save(); !reason.empty()) complain(reason);
+    storePreferences();
     return code == 0 ? kExitDone : kExitCouldNot;
   }
 
@@ -131,8 +153,6 @@ ExitCode runWindow(const WindowArguments& arguments, const CommonOptions& common
   std::setlocale(LC_NUMERIC,
                  "C");  // Qt has taken over the user's locale, which must not reach numbers in files
   QGuiApplication::setApplicationDisplayName(kProgramName);
-  speakPreferredLanguage(application);
-  setTheme(common.theme == "dark" ? Theme::Dark : Theme::Light);
   const HeldKeys keys;
   return WindowRun(arguments, common).run();
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 #include <utility>
 
@@ -13,6 +14,8 @@ namespace host {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr auto kInNoFile = std::numeric_limits<std::uint64_t>::max();  // no state of a document
 
 std::string absoluteName(const std::string& file) {
   std::error_code error;
@@ -37,13 +40,26 @@ std::variant<OpenDrawing*, std::string> Workspace::open(const std::string& file)
   }
   auto read = openDrawing(file);
   if (std::string* reason = std::get_if<std::string>(&read)) return std::move(*reason);
+  return &add(std::move(std::get<SvgDrawing>(read)), titleOf(file),
+              file == kStandardStream ? std::string() : absoluteName(file));
+}
+
+std::variant<OpenDrawing*, std::string> Workspace::recover(const std::string& copy, const std::string& title,
+                                                           const std::string& file) {
+  auto read = readDrawing(copy);
+  if (std::string* reason = std::get_if<std::string>(&read)) return std::move(*reason);
+  OpenDrawing& recovered = add(std::move(std::get<SvgDrawing>(read)), title, file);
+  recovered.savedState = kInNoFile;
+  return &recovered;
+}
+
+OpenDrawing& Workspace::add(SvgDrawing drawing, const std::string& title, const std::string& file) {
   auto opened = std::make_unique<OpenDrawing>();
-  opened->drawing = std::move(std::get<SvgDrawing>(read));
-  opened->shown = &session_.openDocument(opened->drawing.document, titleOf(file),
-                                         file == kStandardStream ? std::string() : absoluteName(file));
+  opened->drawing = std::move(drawing);
+  opened->shown = &session_.openDocument(opened->drawing.document, title, file);
   opened->savedState = opened->document().stateMark();
   drawings_.push_back(std::move(opened));
-  return drawings_.back().get();
+  return *drawings_.back();
 }
 
 std::string Workspace::save(OpenDrawing& drawing, const std::string& file) {

@@ -23,6 +23,10 @@ class Workspace {
   // Opens the file, or turns to it if it is open already; it becomes the current one. The error is a
   // sentence that names the file.
   std::variant<OpenDrawing*, std::string> open(const std::string& file);
+  // Opens the copy of a drawing whose own file is `file`, or none if empty, as changes that are in no file.
+  // The error is a clause.
+  std::variant<OpenDrawing*, std::string> recover(const std::string& copy, const std::string& title,
+                                                  const std::string& file);
   // Writes the drawing to a file, which is its own from then on. Empty, or a sentence on why it was not
   // saved.
   std::string save(OpenDrawing& drawing, const std::string& file);
@@ -33,6 +37,7 @@ class Workspace {
   const std::vector<std::unique_ptr<OpenDrawing>>& all() const { return drawings_; }  // in order of opening
 
  private:
+  OpenDrawing& add(SvgDrawing drawing, const std::string& title, const std::string& file);
   OpenDrawing* drawingOf(const std::string& file) const;
 
   Host& host_;

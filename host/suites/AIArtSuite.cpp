@@ -1,8 +1,10 @@
 #include "AIArt.h"
 
 #include "Bounds.h"
+#include "Duplicate.h"
 #include "Entry.h"
 #include "Lookup.h"
+#include "SelectionCommands.h"
 #include "Suites.h"
 
 namespace host {
@@ -79,6 +81,29 @@ AIErr reorderArt(Host& host, AIArtHandle handle, AIPaintOrder order, AIArtHandle
   return art.document->moveArt(art.id, order, target.reference) ? kNoErr : kWrongKindErr;
 }
 
+AIErr duplicateLayerOf(const ArtRef& root, AIPaintOrder order, const ArtRef& beside, AIArtHandle* copy) {
+  if (beside.document != root.document) return kBadParameterErr;
+  const LayerId layer = duplicateLayer(*root.document, root->rootOf, order, beside->rootOf);
+  *copy = artHandle(*root.document, root.document->layer(layer)->root);
+  return kNoErr;
+}
+
+AIErr duplicate(Host& host, AIArtHandle handle, AIPaintOrder order, AIArtHandle prep, AIArtHandle* copy) {
+  const ArtRef art = findArt(host, handle);
+  if (!art || copy == nullptr) return kBadParameterErr;
+  const ArtRef reference = findArt(host, prep);
+  const bool ofLayers = reference && reference->parent == 0 && isBeside(order);
+  if (ofLayers && art->parent == 0) return duplicateLayerOf(art, order, reference, copy);
+  const Target target = findTarget(host, order, prep);
+  if (target.error != kNoErr) return target.error;
+  if (target.document != art.document) return kBadParameterErr;
+  const bool within = art.document->isWithin(target.reference, art.id);
+  const std::optional<ArtId> id = duplicateArt(*art.document, art.id, order, target.reference);
+  if (!id) return within ? kBadParameterErr : kWrongKindErr;
+  *copy = artHandle(*art.document, *id);
+  return kNoErr;
+}
+
 AIErr getFirstArtOfLayer(Host& host, AILayerHandle handle, AIArtHandle* art) {
   const Document* current = host.currentDocument();
   if (current == nullptr) return kNoDocumentErr;
@@ -111,6 +136,28 @@ AIErr getLayerOfArt(Host& host, AIArtHandle handle, AILayerHandle* layer) {
   return kNoErr;
 }
 
+// Clips belong to the art that they cut, so none of it is a mask.
+AIErr getArtUserAttr(Host& host, AIArtHandle handle, std::int32_t which, std::int32_t* attributes) {
+  const ArtRef art = findArt(host, handle);
+  if (!art || attributes == nullptr) return kBadParameterErr;
+  std::int32_t all = 0;
+  if (art.document->holdsSelected(art.id)) all |= kArtSelected;
+  if (art->locked) all |= kArtLocked;
+  if (art->hidden) all |= kArtHidden;
+  *attributes = all & which;
+  return kNoErr;
+}
+
+AIErr setArtUserAttr(Host& host, AIArtHandle handle, std::int32_t which, std::int32_t attributes) {
+  const ArtRef art = findArt(host, handle);
+  if (!art || which != kArtSelected) return kBadParameterErr;
+  if ((attributes & kArtSelected) == 0) {
+    art.document->setSelected(art.id, false);
+    return kNoErr;
+  }
+  return selectEditable(*art.document, art.id) ? kNoErr : kLayerLockedErr;
+}
+
 AIErr getArtName(Host& host, AIArtHandle handle, AIUnicodeStringHandle name) {
   const ArtRef art = findArt(host, handle);
   return art ? writeString(host, name, art->name) : kBadParameterErr;
@@ -140,12 +187,15 @@ SuiteOffer artSuite() {
       entries.add<newArt>("NewArt"),
       entries.add<disposeArt>("DisposeArt"),
       entries.add<reorderArt>("ReorderArt"),
+      entries.add<duplicate>("DuplicateArt"),
       entries.add<getFirstArtOfLayer>("GetFirstArtOfLayer"),
       entries.add<getNeighbour<&Art::firstChild>>("GetArtFirstChild"),
       entries.add<getNeighbour<&Art::below>>("GetArtSibling"),
       entries.add<getNeighbour<&Art::parent>>("GetArtParent"),
       entries.add<getArtType>("GetArtType"),
       entries.add<getLayerOfArt>("GetLayerOfArt"),
+      entries.add<getArtUserAttr>("GetArtUserAttr"),
+      entries.add<setArtUserAttr>("SetArtUserAttr"),
       entries.add<getArtName>("GetArtName"),
       entries.add<setArtName>("SetArtName"),
       entries.add<getArtTransformBounds>("GetArtTransformBounds"),

@@ -45,6 +45,10 @@ AIErr getNthLayer(Host& host, std::int32_t index, AILayerHandle* layer) {
   return kNoErr;
 }
 
+AIErr getFirstLayer(Host& host, AILayerHandle* layer) {
+  return getNthLayer(host, 0, layer);
+}
+
 AIErr getNextLayer(Host& host, AILayerHandle previous, AILayerHandle* layer) {
   const Subject subject = subjectOf(host, previous);
   if (subject.error != kNoErr) return subject.error;
@@ -136,19 +140,8 @@ bool hasArt(const LayerRef& layer) {
   return layer.document->art(layer->root)->firstChild != 0;
 }
 
-// Walks the layer's art; a group's children come behind the group.
 bool hasSelectedArt(const LayerRef& layer) {
-  const Document& document = *layer.document;
-  std::vector<ArtId> open{document.art(layer->root)->firstChild};
-  while (!open.empty()) {
-    const Art* art = document.art(open.back());
-    open.pop_back();
-    if (art == nullptr) continue;
-    if (art->selected) return true;
-    open.push_back(art->below);
-    open.push_back(art->firstChild);
-  }
-  return false;
+  return layer.document->holdsSelected(layer->root);
 }
 
 // Getters of what follows from the document.
@@ -168,6 +161,7 @@ SuiteOffer layerSuite() {
   static const AILayerSuite table{
       entries.add<countLayers>("CountLayers"),
       entries.add<getNthLayer>("GetNthLayer"),
+      entries.add<getFirstLayer>("GetFirstLayer"),
       entries.add<getNextLayer>("GetNextLayer"),
       entries.add<getLayerByTitle>("GetLayerByTitle"),
       entries.add<insertLayer>("InsertLayer"),

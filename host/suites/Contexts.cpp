@@ -13,9 +13,11 @@ ObjectId nextId() {
 
 }  // namespace
 
-AIAppContextHandle Contexts::push(const std::string& stepName) {
+AIAppContextHandle Contexts::push(const std::string& pluginName) {
   const ObjectId id = nextId();
-  if (id != 0) stack_.push_back({id, std::make_unique<UndoStep>(documents_, stepName)});
+  if (id == 0) return nullptr;
+  const std::string name = nameOfStep ? nameOfStep() : std::string();
+  stack_.push_back({id, std::make_unique<UndoStep>(documents_, name.empty() ? pluginName : name)});
   return makeHandle<AIAppContextHandle>(HandleKind::AppContext, 0, id);
 }
 

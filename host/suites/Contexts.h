@@ -23,7 +23,7 @@ class Contexts {
   ~Contexts() { popTo(0); }
 
   // Null when no more ids are to be had.
-  AIAppContextHandle push(const std::string& stepName);
+  AIAppContextHandle push(const std::string& pluginName);
   // Ends the context and those within it. False for one that is not there.
   bool pop(AIAppContextHandle context);
 
@@ -31,6 +31,9 @@ class Contexts {
   // Ends what was pushed since there were so many.
   void popTo(std::size_t depth);
 
+  // Names the step of a context by what the user is doing; an empty name, or unset: it is called after the
+  // plug-in.
+  std::function<std::string()> nameOfStep;
   // Called after the last context has ended.
   std::function<void()> onEnd;
 

@@ -37,6 +37,16 @@ PluginRecord& Host::addPlugin(std::string name, std::string bundle) {
   return plugins_.add(std::move(plugin));
 }
 
+void Host::forgetRegistrations() {
+  contexts_.popTo(0);
+  notifiers_.removeIf([](const NotifierRecord&) { return true; });
+  annotators_.removeIf([](const AnnotatorRecord&) { return true; });
+  menus_.forgetPlugins();
+  tools_.forgetPlugins();
+  while (!panels_.all().empty()) panels_.remove(panels_.all().back()->handle);
+  pictures_.clear();
+}
+
 const ResourceTable& Host::pictures(SPPluginRef plugin) {
   static const ResourceTable none;
   const PluginRecord* record = plugins_.find(plugin);

@@ -66,6 +66,10 @@ class Host {
   PanelTable& panels() { return panels_; }
   Contexts& contexts() { return contexts_; }
 
+  // Takes out whatever plug-ins registered, and ends their contexts and panels. They themselves stay in the
+  // list. To be called when they have heard the end.
+  void forgetRegistrations();
+
   // The pictures of a plug-in's bundle, read when they are first asked for; none for a stranger.
   const ResourceTable& pictures(SPPluginRef plugin);
 

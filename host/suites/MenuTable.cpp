@@ -12,9 +12,10 @@ struct OwnGroup {
 };
 
 constexpr OwnGroup kOwnGroups[] = {
-    {"File", "File Open"},       {"File", "File Save"},   {"File", "File Quit"},   {"Edit", "Edit Undo"},
-    {"Edit", "Edit Select"},     {"Edit", "Preferences"}, {"View", "View Zoom"},   {"View", "View Theme"},
-    {"Window", "Tool Palettes"}, {"Window", "Panels"},    {"Window", "Documents"}, {"Help", "Help Menu"},
+    {"File", "File Open"},   {"File", "File Save"},       {"File", "File Quit"}, {"Edit", "Edit Undo"},
+    {"Edit", "Edit Select"}, {"Edit", "Preferences"},     {"View", "View Zoom"}, {"View", "View Rulers"},
+    {"View", "View Theme"},  {"Window", "Tool Palettes"}, {"Window", "Panels"},  {"Window", "Documents"},
+    {"Help", "Help Menu"},
 };
 
 }  // namespace
@@ -25,7 +26,7 @@ MenuTable::MenuTable() {
     MenuGroup group;
     group.name = own.name;
     group.menu = own.menu;
-    group.separated = true;
+    group.isOwn = group.separated = true;
     order_.push_back(groups_.add(std::move(group)).handle);
   }
 }
@@ -62,6 +63,14 @@ MenuItem& MenuTable::addItem(MenuItem item, MenuGroup& group) {
   MenuItem& added = items_.add(std::move(item));
   group.items.push_back(added.handle);
   return added;
+}
+
+void MenuTable::forgetPlugins() {
+  items_.removeIf([](const MenuItem&) { return true; });
+  groups_.removeIf([](const MenuGroup& group) { return !group.isOwn; });
+  for (MenuGroup& group : groups_) group.items.clear();
+  const auto isGone = [this](AIMenuGroup group) { return groups_.find(group) == nullptr; };
+  order_.erase(std::remove_if(order_.begin(), order_.end(), isGone), order_.end());
 }
 
 std::vector<AIMenuGroup> MenuTable::groupsOfMenu(const std::string& title) const {

@@ -16,6 +16,7 @@ struct MenuGroup {
   std::string name;                     // the key by which plug-ins find it; in no language
   std::string menu;                     // title of the menu it lies in; empty in a submenu
   AIMenuItemHandle opener = nullptr;    // the item whose submenu it lies in; null in a menu of the bar
+  bool isOwn = false;                   // the application's
   bool separated = false;               // set off from its neighbours by separators
   std::vector<AIMenuItemHandle> items;  // from the top down
 };
@@ -48,6 +49,9 @@ class MenuTable {
   // Behind the groups that the submenu of `opener` has already.
   MenuGroup& addSubmenu(std::string name, std::int32_t options, const MenuItem& opener);
   MenuItem& addItem(MenuItem item, MenuGroup& group);  // at its end
+
+  // Takes out all items, and all groups but the application's own.
+  void forgetPlugins();
 
   Registry<MenuGroup>& groups() { return groups_; }
   const Registry<MenuGroup>& groups() const { return groups_; }

@@ -1,6 +1,7 @@
-// Lists of what plug-ins register: nothing is ever taken out, and records stay where they are.
+// Lists of what plug-ins register. Records stay where they are until some are taken out.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <deque>
 #include <utility>
@@ -9,25 +10,33 @@
 
 namespace host {
 
-// A Record has a field `handle` and a constant `kKind`.
+// A Record has a field `handle` and a constant `kKind`. No handle is given out twice.
 template <typename Record>
 class Registry {
  public:
   using Handle = decltype(Record::handle);
 
   Record& add(Record record) {
-    const auto id = static_cast<ObjectId>(records_.size() + 1);
-    record.handle = makeHandle<Handle>(Record::kKind, 0, id);
+    record.handle = makeHandle<Handle>(Record::kKind, 0, ++last_);
     records_.push_back(std::move(record));
     return records_.back();
   }
 
-  // Null for a handle that this registry did not give out.
+  // Null for a handle that this registry did not give out, or whose record is gone.
   Record* find(Handle handle) {
     const ObjectId id = idOfHandle(handle, Record::kKind, 0);
-    return id != 0 && id <= records_.size() ? &records_[id - 1] : nullptr;
+    const auto found =
+        std::lower_bound(records_.begin(), records_.end(), id,
+                         [](const Record& record, ObjectId wanted) { return idOf(record) < wanted; });
+    return id != 0 && found != records_.end() && idOf(*found) == id ? &*found : nullptr;
   }
   const Record* find(Handle handle) const { return const_cast<Registry*>(this)->find(handle); }
+
+  // Takes out all records of which `isGone` is true; references to the others end as well.
+  template <typename Predicate>
+  void removeIf(const Predicate& isGone) {
+    records_.erase(std::remove_if(records_.begin(), records_.end(), isGone), records_.end());
+  }
 
   std::size_t size() const { return records_.size(); }
   Record& operator[](std::size_t index) { return records_[index]; }  // in order of registration
@@ -38,7 +47,10 @@ class Registry {
   auto end() const { return records_.end(); }
 
  private:
+  static ObjectId idOf(const Record& record) { return idOfHandle(record.handle, Record::kKind, 0); }
+
   std::deque<Record> records_;
+  ObjectId last_ = 0;
 };
 
 }  // namespace host

@@ -19,6 +19,7 @@ SuiteOffer filePathSuite();
 SuiteOffer foldersSuite();
 SuiteOffer hitTestSuite();
 SuiteOffer layerSuite();
+SuiteOffer matchingArtSuite();
 SuiteOffer menuSuite();
 SuiteOffer notifierSuite();
 SuiteOffer paintStyleSuite();

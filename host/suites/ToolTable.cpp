@@ -63,6 +63,23 @@ void ToolTable::showInfo(const ToolInfo& info) {
   if (onInfo) onInfo();
 }
 
+void ToolTable::forgetPlugins() {
+  const auto isOwn = [](const ToolRecord& tool) { return tool.plugin == nullptr; };
+  tools_.removeIf([&](const ToolRecord& tool) { return !isOwn(tool); });
+  if (selected() == nullptr) selected_ = nullptr;
+  toolsets_ = 0;
+  int groups = 0;
+  for (const ToolRecord& tool : tools_) {
+    groups = std::max(groups, tool.group);
+    toolsets_ = std::max(toolsets_, tool.toolset);
+  }
+  visible_.resize(static_cast<std::size_t>(groups));
+  for (const ToolRecord& tool : tools_) {
+    AIToolHandle& member = visible_[static_cast<std::size_t>(tool.group) - 1];
+    if (tools_.find(member) == nullptr) member = tool.handle;
+  }
+}
+
 bool ToolTable::change(AIToolHandle tool) {
   const AIToolHandle before = std::exchange(selected_, tool);
   if (before != tool && onChange) onChange(tools_.find(before), tools_.find(tool));

@@ -33,6 +33,9 @@ class ToolTable {
   ToolInfo info() const;
   void showInfo(const ToolInfo& info);
 
+  // Takes out the tools of plug-ins. If one of them is selected, none is afterwards, without a call.
+  void forgetPlugins();
+
   // Called after another tool was selected; either may be null.
   std::function<void(const ToolRecord* previous, const ToolRecord* now)> onChange;
   // Called after a tool told values for the info display.

@@ -6,6 +6,7 @@
 #include <QToolButton>
 #include <utility>
 
+#include "CanvasFrame.h"
 #include "DrawingView.h"
 #include "Host.h"
 #include "OpenDrawing.h"
@@ -41,8 +42,12 @@ void DrawingTabs::turnTo(int index) {
   tabs_->setCurrentIndex(index);
 }
 
+CanvasFrame& DrawingTabs::frameAt(int index) const {
+  return *static_cast<CanvasFrame*>(tabs_->widget(index));
+}
+
 DrawingView& DrawingTabs::viewAt(int index) const {
-  return *static_cast<DrawingView*>(tabs_->widget(index));
+  return frameAt(index).view();
 }
 
 DrawingView* DrawingTabs::viewOf(const OpenDocument& open) const {
@@ -53,17 +58,30 @@ DrawingView* DrawingTabs::viewOf(const OpenDocument& open) const {
 }
 
 void DrawingTabs::turnTo(OpenDrawing& drawing) {
-  if (DrawingView* known = viewOf(*drawing.shown)) return tabs_->setCurrentWidget(known);
-  auto* view = new DrawingView(drawing, events_);
-  const int index = tabs_->addTab(view, titleOf(drawing));
-  tabs_->tabBar()->setTabButton(index, QTabBar::RightSide, closeButtonFor(*view));
+  if (DrawingView* known = viewOf(*drawing.shown)) return tabs_->setCurrentWidget(known->parentWidget());
+  auto* frame = new CanvasFrame(drawing, events_,
+                                [this, &drawing](AIRulerUnits units) { chooseUnits(drawing, units); });
+  frame->showRulers(showsRulers_);
+  const int index = tabs_->addTab(frame, titleOf(drawing));
+  tabs_->tabBar()->setTabButton(index, QTabBar::RightSide, closeButtonFor(frame->view()));
   tabs_->setCurrentIndex(index);
-  view->setFocus();
+  frame->view().setFocus();
 }
 
 void DrawingTabs::remove(const OpenDrawing& drawing) {
   const QSignalBlocker whileHalfGone(tabs_);
-  delete viewOf(*drawing.shown);
+  if (DrawingView* view = viewOf(*drawing.shown)) delete view->parentWidget();
+}
+
+void DrawingTabs::chooseUnits(OpenDrawing& drawing, AIRulerUnits units) {
+  drawing.document().setRulerUnits(units);
+  if (DrawingView* view = viewOf(*drawing.shown)) view->refresh();
+  if (commands_.unitsChosen) commands_.unitsChosen(drawing);
+}
+
+void DrawingTabs::showRulers(bool shown) {
+  showsRulers_ = shown;
+  for (int i = 0; i < drawings(); ++i) frameAt(i).showRulers(shown);
 }
 
 QToolButton* DrawingTabs::closeButtonFor(DrawingView& view) {

@@ -1,31 +1,29 @@
 #include "DrawingView.h"
 
+#include <QBackingStore>
+#include <QGestureEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
-#include <cmath>
-#include <utility>
 
 #include "Host.h"
 #include "OpenDrawing.h"
+#include "SheetPainter.h"
 #include "ViewEvents.h"
 
 namespace host {
 namespace {
 
-constexpr QRgb kPasteboard = qRgb(0x8c, 0x8c, 0x8c);
-constexpr QRgb kSheetEdge = qRgb(0x5a, 0x5a, 0x5a);
-
-bool operator==(const PixelRect& a, const PixelRect& b) {
-  return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
-}
+constexpr std::chrono::seconds kLongestWait{30};  // of whoever wants a picture of the view
 
 }  // namespace
 
-DrawingView::DrawingView(OpenDrawing& drawing, ViewEvents& events) : drawing_(drawing), events_(events) {
+DrawingView::DrawingView(OpenDrawing& drawing, ViewEvents& events)
+    : drawing_(drawing), events_(events), picture_(*this, drawing), navigation_(*this) {
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  grabGesture(Qt::PinchGesture);
   setMinimumSize(200, 150);
   refresh();
 }
@@ -33,14 +31,17 @@ DrawingView::DrawingView(OpenDrawing& drawing, ViewEvents& events) : drawing_(dr
 void DrawingView::refresh() {
   setAccessibleName("Drawing " + QString::fromStdString(drawing_.shown->title));
   update();
+  if (onMove) onMove();
 }
 
 void DrawingView::repaintLater(const QRectF& part) {
   update((part & QRectF(rect())).toAlignedRect());
 }
 
+// --- the pointer and the keys ---
+
 void DrawingView::reportPointer() {
-  if (!underMouse()) return;
+  if (!underMouse() || navigation_.isHand()) return;
   events_.pointerMoved(*this,
                        eventAt(mapFromGlobal(QCursor::pos()), QGuiApplication::queryKeyboardModifiers()));
 }
@@ -49,54 +50,99 @@ PointerEvent DrawingView::eventAt(const QPointF& position, Qt::KeyboardModifiers
   return {drawing_.shown->view.toDocument({position.x(), position.y()}), position, modifiers};
 }
 
+void DrawingView::tellPointer(const std::optional<QPointF>& position) {
+  if (onPointer) onPointer(position);
+}
+
+bool DrawingView::event(QEvent* event) {
+  if (event->type() != QEvent::Gesture) return QWidget::event(event);
+  navigation_.pinch(*static_cast<QGestureEvent*>(event));
+  return true;
+}
+
 void DrawingView::enterEvent(QEvent* event) {
-  events_.pointerMoved(*this, eventAt(static_cast<QEnterEvent*>(event)->localPos(), {}));
+  const QPointF position = static_cast<QEnterEvent*>(event)->localPos();
+  tellPointer(position);
+  if (!navigation_.isHand()) events_.pointerMoved(*this, eventAt(position, {}));
 }
 
 void DrawingView::leaveEvent(QEvent*) {
+  tellPointer(std::nullopt);
   events_.pointerLeft(*this);
 }
 
+void DrawingView::focusOutEvent(QFocusEvent*) {
+  navigation_.letGo();
+}
+
 void DrawingView::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
+  if (navigation_.press(*event) || event->button() != Qt::LeftButton) return;
   events_.pointerPressed(*this, eventAt(event->localPos(), event->modifiers()));
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
+  tellPointer(event->localPos());
+  if (navigation_.move(*event)) return;
   const PointerEvent at = eventAt(event->localPos(), event->modifiers());
   if ((event->buttons() & Qt::LeftButton) != 0) return events_.pointerDragged(*this, at);
   events_.pointerMoved(*this, at);
 }
 
 void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
+  if (navigation_.release(*event) || event->button() != Qt::LeftButton) return;
   events_.pointerReleased(*this, eventAt(event->localPos(), event->modifiers()));
 }
 
+void DrawingView::wheelEvent(QWheelEvent* event) {
+  navigation_.wheel(*event);
+  if (event->buttons() != Qt::NoButton || navigation_.isHand()) return;
+  events_.pointerMoved(*this, eventAt(event->position(), event->modifiers()));  // over another place
+}
+
 void DrawingView::keyPressEvent(QKeyEvent* event) {
+  if (navigation_.keyPress(*event)) return;
   event->ignore();
   events_.keyPressed(*this, *event);
 }
+
+void DrawingView::keyReleaseEvent(QKeyEvent* event) {
+  bool tapped = false;
+  if (!navigation_.keyRelease(*event, tapped)) return event->ignore();
+  if (!tapped) return;
+  QKeyEvent press(QEvent::KeyPress, event->key(), event->modifiers(), event->text());
+  press.ignore();
+  events_.keyPressed(*this, press);
+}
+
+// --- the way about ---
 
 void DrawingView::resizeEvent(QResizeEvent*) {
   events_.aboutToMove(*this);
   View& view = drawing_.shown->view;
   view.setViewport(width(), height());
   if (isFitted_) view.show(unionOfArtboards(drawing_.document()));
-  update();
-  events_.moved(*this);
+  tellMove();
 }
 
 void DrawingView::move(const std::function<void(View&)>& change) {
   events_.aboutToMove(*this);
   isFitted_ = false;
   change(drawing_.shown->view);
+  tellMove();
+}
+
+void DrawingView::tellMove() {
   update();
   events_.moved(*this);
+  if (onMove) onMove();
 }
 
 void DrawingView::panBy(const QPointF& pixels) {
   move([&](View& view) { view.moveBy({pixels.x(), pixels.y()}); });
+}
+
+double DrawingView::zoom() const {
+  return drawing_.shown->view.zoom();
 }
 
 void DrawingView::zoomAround(const QPointF& fixed, double zoom) {
@@ -116,66 +162,43 @@ void DrawingView::fitArtboards() {
   isFitted_ = true;
 }
 
-void DrawingView::load() {
-  const std::uint64_t revision = drawing_.document().revision();
-  if (loadedRevision_ == revision) return;
-  loadedRevision_ = revision;
-  picture_.reset();
-  complaint_.clear();
-  image_ = {};
-  auto loaded = SvgPicture::load(drawing_.drawing, writeSvg(drawing_.drawing), drawing_.shown->file);
-  if (std::string* reason = std::get_if<std::string>(&loaded)) {
-    complaint_ = std::move(*reason);
-  } else {
-    picture_ = std::move(std::get<SvgPicture>(loaded));
-  }
-}
+// --- the picture ---
 
-// In device pixels, between whole ones: the edges of the sheet are sharp.
-PixelRect DrawingView::placeOfPicture() const {
-  const AIRealRect& bounds = picture_->bounds();
-  const View& view = drawing_.shown->view;
-  const AIRealPoint from = view.toPixels({bounds.left, bounds.top});
-  const AIRealPoint to = view.toPixels({bounds.right, bounds.bottom});
-  const double ratio = devicePixelRatioF();
-  const double x = std::round(from.x * ratio);
-  const double y = std::round(from.y * ratio);
-  return {x, y, std::round(to.x * ratio) - x, std::round(to.y * ratio) - y};
-}
-
-void DrawingView::draw(const QSize& pixels, const PixelRect& place) {
-  if (image_.size() == pixels && imagePlace_ == place) return;
-  image_ = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
-  imagePlace_ = place;
-  image_.fill(kPasteboard);
-  complaint_ = picture_->draw({image_.bits(), image_.width(), image_.height(), image_.bytesPerLine()}, place);
-  image_.setDevicePixelRatio(devicePixelRatioF());
+// Else the view is asked for a picture of itself, by which it should be known.
+bool DrawingView::isPaintedOnScreen() const {
+  QPoint offset;
+  QBackingStore* store = backingStore();
+  return store != nullptr && redirected(&offset) == store->paintDevice();
 }
 
 void DrawingView::paintEvent(QPaintEvent*) {
-  load();
+  if (isPaintedOnScreen()) {
+    picture_.follow();
+  } else {
+    picture_.waitUntilSharp(kLongestWait);
+  }
   QPainter painter(this);
-  paintDrawing(painter);
-  paintComplaint(painter);
+  if (picture_.complaint().empty()) {
+    paintDrawing(painter);
+  } else {
+    paintComplaint(painter);
+  }
   events_.paintOver(*this, painter);
 }
 
 void DrawingView::paintDrawing(QPainter& painter) {
-  if (!picture_) return painter.fillRect(rect(), QColor(kPasteboard));
-  const double ratio = devicePixelRatioF();
-  const PixelRect place = placeOfPicture();
-  draw((QSizeF(size()) * ratio).toSize(), place);
-  painter.drawImage(0, 0, image_);
-  painter.setPen(QPen(QColor(kSheetEdge), 0));
-  painter.drawRect(QRectF(place.x / ratio, place.y / ratio, place.width / ratio, place.height / ratio)
-                       .adjusted(-0.5 / ratio, -0.5 / ratio, 0.5 / ratio, 0.5 / ratio));
+  const CanvasPlace place = picture_.place();
+  const std::vector<Sheet> sheets = sheetsAt(place, drawing_.document());
+  paintSheets(painter, rect(), sheets, palette());
+  picture_.paint(painter, place);
+  paintSheetEdges(painter, rect(), sheets, palette());
 }
 
 void DrawingView::paintComplaint(QPainter& painter) {
-  if (complaint_.empty()) return;
-  painter.setPen(Qt::white);
+  painter.fillRect(rect(), pasteboardColour(palette()));
+  painter.setPen(palette().color(QPalette::WindowText));
   painter.drawText(rect().adjusted(20, 20, -20, -20), Qt::AlignCenter | Qt::TextWordWrap,
-                   "This drawing cannot be shown: " + QString::fromStdString(complaint_));
+                   "This drawing cannot be shown: " + QString::fromStdString(picture_.complaint()));
 }
 
 }  // namespace host

@@ -5,8 +5,8 @@
 #include <QWidget>
 #include <memory>
 
-#include "PanelDock.h"
 #include "PanelTable.h"
+#include "PluginDock.h"
 
 namespace host {
 
@@ -14,7 +14,7 @@ namespace host {
 class DockPanelView : public PanelView {
  public:
   // `view` is what the panel's content stands in. `dock` is deleted with this, or with its window.
-  DockPanelView(const PanelRecord& panel, QWidget& view, PanelDock& dock)
+  DockPanelView(const PanelRecord& panel, QWidget& view, PluginDock& dock)
       : panel_(panel), view_(&view), dock_(&dock) {}
   ~DockPanelView() override;
 
@@ -27,12 +27,12 @@ class DockPanelView : public PanelView {
   void recordChanged() override;
 
   // Called when the panel is about to go.
-  std::function<void(PanelDock&)> onEnd;
+  std::function<void(PluginDock&)> onEnd;
 
  private:
   const PanelRecord& panel_;
   QPointer<QWidget> view_;
-  QPointer<PanelDock> dock_;
+  QPointer<PluginDock> dock_;
 };
 
 }  // namespace host

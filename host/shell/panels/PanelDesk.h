@@ -13,7 +13,7 @@ class QMainWindow;
 namespace host {
 
 class Host;
-class PanelDock;
+class PluginDock;
 
 class PanelDesk : public PanelViews {
  public:
@@ -32,13 +32,12 @@ class PanelDesk : public PanelViews {
   void rememberForGood();
 
  private:
-  void remember(PanelDock& dock);
-  QAction* makeAction(PanelDock& dock, const QString& title);
+  void remember(PluginDock& dock);
 
   QMainWindow& window_;
   Host& host_;
   std::function<void()> onChange_;
-  QList<QPointer<PanelDock>> docks_;
+  QList<QPointer<PluginDock>> docks_;
   bool remembersNoMore_ = false;
 };
 

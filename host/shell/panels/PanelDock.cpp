@@ -1,35 +1,15 @@
 #include "PanelDock.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMainWindow>
-#include <QMenu>
 #include <QScreen>
 #include <QTimer>
-#include <cmath>
 #include <utility>
-
-#include "FlyoutPopup.h"
-#include "Host.h"
-#include "HostObjects.h"
-#include "PanelCalls.h"
-#include "PluginPictures.h"
 
 namespace host {
 namespace {
-
-QSize toQSize(AISize size) {
-  return {static_cast<int>(std::lround(size.width)), static_cast<int>(std::lround(size.height))};
-}
-
-PanelHolder::Limits limitsOf(const PanelRecord& panel) {
-  PanelHolder::Limits limits;
-  limits.minimum = toQSize(panel.minimum);
-  limits.maximum = toQSize(panel.maximum);
-  limits.isResizable = panel.isResizable;
-  limits.verticalStep = static_cast<int>(std::lround(panel.verticalStep));
-  return limits;
-}
 
 // A title that no screen shows can't be dragged.
 QPoint onAScreen(QPoint corner) {
@@ -39,32 +19,25 @@ QPoint onAScreen(QPoint corner) {
 
 }  // namespace
 
-PanelDock::PanelDock(QMainWindow& window, Host& host, const PanelRecord& panel, QWidget& view,
+PanelDock::PanelDock(QMainWindow& window, const std::string& identifier, const Face& face, QWidget& view,
                      std::function<void()> onChange)
     : window_(window),
-      host_(host),
-      panel_(panel.handle),
       onChange_(std::move(onChange)),
       title_(new PanelTitle(commands())),
       holder_(new PanelHolder(view)) {
-  setObjectName(QString::fromStdString(panel.identifier));
+  setObjectName(QString::fromStdString(identifier));
   setTitleBarWidget(title_);
   setWidget(holder_);
-  holder_->setLimits(limitsOf(panel), false);
-  holder_->onViewResized = [this] { tellOfSize(host_, panel_); };
   hide();
   window.addDockWidget(Qt::RightDockWidgetArea, this);
+  showFace(face);
+  holder_->onViewResized = [this] { viewResized(); };
   connect(this, &QDockWidget::topLevelChanged, this, [this] { floatingChanged(); });
 }
 
-PanelRecord* PanelDock::record() const {
-  return host_.panels().find(panel_);
-}
-
 PanelTitle::Commands PanelDock::commands() {
-  return {[this] { tellOfState(host_, panel_); }, [this] { openMenu(); },
-          [this] { collapse(!holder_->isCollapsed()); }, [this] { setFloating(!isFloating()); },
-          [this] { setShown(false); }};
+  return {[this] { changeState(); }, [this] { openMenu(); }, [this] { collapse(!holder_->isCollapsed()); },
+          [this] { setFloating(!isFloating()); }, [this] { setShown(false); }};
 }
 
 // --- place ---
@@ -72,10 +45,7 @@ PanelTitle::Commands PanelDock::commands() {
 void PanelDock::comeBack(const PanelPlace& place) {
   hasPlace_ = true;
   window_.addDockWidget(static_cast<Qt::DockWidgetArea>(place.area), this);
-  if (const PanelRecord* panel = record(); panel != nullptr && panel->isResizable) {
-    const AISize size{static_cast<AIReal>(place.width), static_cast<AIReal>(place.height)};
-    holder_->setViewSize(toQSize(heldWithin(*panel, size)));
-  }
+  if (isResizable_) holder_->setViewSize(holder_->held({place.width, place.height}));
   if (place.floats) {
     setFloating(true);
     move(onAScreen({place.left, place.top}));
@@ -83,7 +53,7 @@ void PanelDock::comeBack(const PanelPlace& place) {
   collapse(place.isCollapsed);
   if (!place.isShown) return;
   QTimer::singleShot(0, this, [this] {
-    if (!wasToldToShow_ && record() != nullptr) setShown(true);
+    if (!wasToldToShow_ && isAlive()) setShown(true);
   });
 }
 
@@ -124,7 +94,7 @@ void PanelDock::setViewSize(QSize size) {
 
 // As far as there is any: the window's layout has the last word.
 void PanelDock::takeRoom() {
-  if (!isShown_ || record() == nullptr) return;
+  if (!isShown_ || !isAlive()) return;
   if (isFloating()) return resize(sizeHint());
   window_.resizeDocks({this}, {sizeHint().width()}, Qt::Horizontal);
   window_.resizeDocks({this}, {sizeHint().height()}, Qt::Vertical);
@@ -145,7 +115,15 @@ void PanelDock::setShown(bool shown) {
   setVisible(shown);
   takeRoom();
   onChange_();
-  tellOfVisibility(host_, panel_, shown);
+  shownOrHidden(shown);
+}
+
+QAction* PanelDock::makeAction(QObject& parent) {
+  auto* action = new QAction(windowTitle().replace('&', "&&").replace('\t', ' '), &parent);
+  action->setCheckable(true);
+  action->setChecked(isShown_);
+  connect(action, &QAction::triggered, this, [this](bool shown) { setShown(shown); });
+  return action;
 }
 
 void PanelDock::closeEvent(QCloseEvent* event) {
@@ -153,8 +131,7 @@ void PanelDock::closeEvent(QCloseEvent* event) {
   setShown(false);
 }
 
-void PanelDock::panelGone() {
-  panel_ = nullptr;
+void PanelDock::goAway() {
   isShown_ = false;
   hide();
   deleteLater();
@@ -162,33 +139,20 @@ void PanelDock::panelGone() {
 
 // --- what its title shows ---
 
-void PanelDock::refresh() {
-  const PanelRecord* panel = record();
-  if (panel == nullptr) return;
+void PanelDock::showFace(const Face& face) {
   PanelTitle::Content content;
-  content.title = QString::fromStdString(panel->title);
-  content.icon = panelIcon(host_, *panel, theme());
-  content.hasStates = panel->stateCount > 1;
-  content.hasMenu = panel->menu != nullptr;
+  content.title = face.title;
+  content.icon = face.icon;
+  content.hasStates = face.hasStates;
+  content.hasMenu = face.hasMenu;
   content.isCollapsed = holder_->isCollapsed();
   content.floats = isFloating();
   title_->show(content);
-  setWindowTitle(content.title);
-  setAccessibleName(content.title);
-  holder_->setAccessibleName(content.title);
-  holder_->setLimits(limitsOf(*panel), isFloating());
-}
-
-void PanelDock::openMenu() {
-  tellOfFlyoutOpening(host_, panel_);
-  const PanelRecord* panel = record();
-  const FlyoutMenu* menu = panel == nullptr ? nullptr : host_.objects().flyoutMenus.find(panel->menu);
-  if (menu == nullptr) return;
-  QMenu* popup = makeFlyoutPopup(*menu, this, [this](std::uint32_t id) {
-    tellOfFlyoutSelection(host_, panel_, id);
-    onChange_();
-  });
-  popup->popup(title_->menuCorner());
+  setWindowTitle(face.title);
+  setAccessibleName(face.title);
+  holder_->setAccessibleName(face.title);
+  isResizable_ = face.limits.isResizable;
+  holder_->setLimits(face.limits, isFloating());
 }
 
 }  // namespace host

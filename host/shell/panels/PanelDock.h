@@ -4,28 +4,34 @@
 #include <QDockWidget>
 #include <functional>
 
-#include "AITypes.h"
 #include "PanelHolder.h"
 #include "PanelPlaces.h"
 #include "PanelTitle.h"
 
+class QAction;
 class QMainWindow;
 
 namespace host {
 
-class Host;
-struct PanelRecord;
-
 class PanelDock : public QDockWidget {
  public:
-  // Hidden, of the size that the panel has at least. Becomes the window's; `view` stays the caller's.
-  // `onChange` is called when the panel's title, place or visibility has changed.
-  PanelDock(QMainWindow& window, Host& host, const PanelRecord& panel, QWidget& view,
+  // What is said of the panel around its view.
+  struct Face {
+    QString title;
+    QIcon icon;  // may be null
+    bool hasStates = false;
+    bool hasMenu = false;
+    PanelHolder::Limits limits;
+  };
+
+  // Hidden, its view of the least size. Becomes the window's; `view` stays the caller's. The identifier is
+  // what the place is remembered by. `onChange` is called when the place or the visibility has changed.
+  PanelDock(QMainWindow& window, const std::string& identifier, const Face& face, QWidget& view,
             std::function<void()> onChange);
 
-  AIPanelRef panel() const { return panel_; }
+  std::string identifier() const { return objectName().toStdString(); }
 
-  // Puts it where it was last time, and shows it soon if it was shown then and the plug-in says nothing else.
+  // Puts it where it was last time, and shows it soon if it was shown then and nobody says anything else.
   void comeBack(const PanelPlace& place);
   PanelPlace place();
 
@@ -34,28 +40,37 @@ class PanelDock : public QDockWidget {
   void setViewSize(QSize size);
   QSize viewSize() const { return holder_->viewSize(); }
   void moveTo(QPoint corner);  // if it floats, or has no place of last time
-  // To be called when the panel's record or the theme has changed.
-  void refresh();
-  // Without a panel from here on; to be deleted soon.
-  void panelGone();
+  void collapse(bool isCollapsed);
+  // For a menu: shows or hides the panel. The caller's.
+  QAction* makeAction(QObject& parent);
+  // To be called when what it shows of itself, or the theme, has changed.
+  virtual void refresh() = 0;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
 
+  void showFace(const Face& face);
+  QPoint menuCorner() const { return title_->menuCorner(); }
+  void changed() { onChange_(); }
+  void goAway();  // for good
+
+  // What the subclass does about its buttons and about what happens to the view.
+  virtual bool isAlive() const { return true; }  // false: is to show itself no more
+  virtual void changeState() {}
+  virtual void openMenu() {}
+  virtual void viewResized() {}
+  virtual void shownOrHidden(bool) {}
+
  private:
-  PanelRecord* record() const;  // null if the panel is gone
   PanelTitle::Commands commands();
-  void openMenu();
-  void collapse(bool isCollapsed);
   void floatingChanged();
   void takeRoom();
 
   QMainWindow& window_;
-  Host& host_;
-  AIPanelRef panel_;
   std::function<void()> onChange_;
   PanelTitle* title_;
   PanelHolder* holder_;
+  bool isResizable_ = false;
   bool isShown_ = false;
   bool wasToldToShow_ = false;  // or to hide, since it is there
   bool hasPlace_ = false;       // of last time, or by the user's will

@@ -19,7 +19,11 @@ PanelHolder::~PanelHolder() {
 void PanelHolder::setLimits(const Limits& limits, bool floats) {
   limits_ = limits;
   floats_ = floats;
-  setViewSize(viewSize().expandedTo(limits.minimum).boundedTo(limits.maximum));
+  setViewSize(held(viewSize()));
+}
+
+QSize PanelHolder::held(QSize size) const {
+  return size.expandedTo(limits_.minimum).boundedTo(limits_.maximum);
 }
 
 void PanelHolder::setViewSize(QSize size) {

@@ -24,6 +24,7 @@ class PanelHolder : public QWidget {
   // At once, whatever there is room for.
   void setViewSize(QSize size);
   QSize viewSize() const;
+  QSize held(QSize size) const;  // within the limits
   void collapse(bool isCollapsed);
   bool isCollapsed() const { return isCollapsed_; }
 
@@ -38,7 +39,6 @@ class PanelHolder : public QWidget {
  private:
   QSize fitting(QSize room) const;
   void holdRoom();
-  void resizeView(QSize size);
 
   QPointer<QWidget> view_;
   Limits limits_;

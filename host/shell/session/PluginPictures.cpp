@@ -2,17 +2,13 @@
 
 #include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPixmap>
 #include <QSvgRenderer>
 
 #include "Host.h"
-#include "ThemePalette.h"
 
 namespace host {
 namespace {
-
-constexpr int kArrowSide = 20;  // pixels
 
 // Null if there is none. A picture in single resolution where a doubled one was asked for says so.
 QPixmap pictureOf(const ResourceTable& pictures, std::int32_t id, ResourceTable::Version version) {
@@ -39,25 +35,6 @@ QPixmap drawingOf(const ResourceTable& pictures, std::int32_t id, ResourceTable:
   return pixmap;
 }
 
-QPainterPath arrow() {
-  const QVector<QPointF> corners{{5, 2},   {5, 16},    {8.6, 12.8}, {10.9, 18},
-                                 {13, 17}, {10.8, 12}, {15.4, 11.8}};
-  QPainterPath path;
-  path.addPolygon(corners);
-  path.closeSubpath();
-  return path;
-}
-
-QPixmap arrowPicture(const QColor& ink, int scale) {
-  QPixmap pixmap(QSize(kArrowSide, kArrowSide) * scale);
-  pixmap.fill(Qt::transparent);
-  pixmap.setDevicePixelRatio(scale);
-  QPainter painter(&pixmap);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillPath(arrow(), ink);
-  return pixmap;
-}
-
 }  // namespace
 
 QIcon toolIcon(Host& host, const ToolRecord& tool, Theme theme) {
@@ -65,9 +42,7 @@ QIcon toolIcon(Host& host, const ToolRecord& tool, Theme theme) {
   QIcon icon;
   for (const bool doubled : {false, true}) {
     const std::int32_t id = dark ? tool.darkIcon : tool.lightIcon;
-    const QPixmap pixmap = tool.plugin == nullptr
-                               ? arrowPicture(iconInk(theme), doubled ? 2 : 1)
-                               : pictureOf(host.pictures(tool.plugin), id, {dark, doubled});
+    const QPixmap pixmap = pictureOf(host.pictures(tool.plugin), id, {dark, doubled});
     if (!pixmap.isNull()) icon.addPixmap(pixmap);
   }
   return icon;

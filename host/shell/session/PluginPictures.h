@@ -14,8 +14,8 @@ class ResourceTable;
 struct PanelRecord;
 struct ToolRecord;
 
-// In single and double resolution, for the ground of the theme. The application's own tools share an arrow;
-// a plug-in's tool without a picture has none.
+// Of a plug-in's tool, in single and double resolution, for the ground of the theme; null if it has no
+// picture.
 QIcon toolIcon(Host& host, const ToolRecord& tool, Theme theme);
 
 // The same for a panel; null if its plug-in has given it none.

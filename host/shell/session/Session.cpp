@@ -1,6 +1,7 @@
 #include "Session.h"
 
 #include <QApplication>
+#include <QThread>
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -33,6 +34,13 @@ std::string commandName(std::string text) {
   return text;
 }
 
+// The first of which `isWanted` is true, if there is one.
+template <typename Predicate>
+void selectTool(ToolTable& tools, const Predicate& isWanted) {
+  const auto found = std::find_if(tools.all().begin(), tools.all().end(), isWanted);
+  if (found != tools.all().end()) tools.select(found->handle);
+}
+
 }  // namespace
 
 std::string Session::loadPlugin(const std::filesystem::path& bundle) {
@@ -41,13 +49,16 @@ std::string Session::loadPlugin(const std::filesystem::path& bundle) {
   PluginBundle& library = std::get<PluginBundle>(loaded);
   const PluginRecord& record = host_.addPlugin(library.name(), library.folder().string());
   LoadedPlugin plugin{record.handle, std::move(library), nullptr};
+  std::string reason = startPlugin(plugin);
+  if (reason.empty()) plugins_.push_back(std::move(plugin));
+  return reason;
+}
+
+std::string Session::startPlugin(LoadedPlugin& plugin) {
   SPMessageData message{};
   const SPErr code = sendTo(plugin, kSPInterfaceCaller, kSPInterfaceStartupSelector, message, {});
-  if (code != kSPNoError) {
-    return "the plug-in " + plugin.bundle.folder().string() + " did not start: it answered " + codeText(code);
-  }
-  plugins_.push_back(std::move(plugin));
-  return {};
+  if (code == kSPNoError) return {};
+  return "the plug-in " + plugin.bundle.folder().string() + " did not start: it answered " + codeText(code);
 }
 
 void Session::start() {
@@ -137,11 +148,17 @@ void Session::tellChanges() {
   if (depth_ > 0) return;
   const Told before = std::exchange(told_, now());
   const bool isAnother = before.serial != told_.serial;
-  if (isAnother || before.selection != told_.selection) notify(kAIArtSelectionChangedNotifier);
-  if (!isAnother && before.revision != told_.revision) notify(kAIArtPropertiesChangedNotifier);
+  const bool isAnotherSelection = isAnother || before.selection != told_.selection;
+  if (isAnotherSelection) notify(kAIArtSelectionChangedNotifier);
+  if (isAnotherSelection || before.revision != told_.revision) notify(kAIArtPropertiesChangedNotifier);
 }
 
 void Session::shutdown() {
+  endLife();
+  plugins_.clear();
+}
+
+void Session::endLife() {
   if (started_) {
     notify(kAISaveUserDataNotifier);
     notify(kAIApplicationShutdownNotifier);
@@ -151,7 +168,42 @@ void Session::shutdown() {
     SPMessageData message{};
     sendTo(plugin, kSPInterfaceCaller, kSPInterfaceShutdownSelector, message, {});
   }
-  plugins_.clear();
+}
+
+bool Session::isIdle() const {
+  const bool hasPopup =
+      QCoreApplication::instance() != nullptr && QApplication::activePopupWidget() != nullptr;
+  const bool isWithinLoop = QThread::currentThread()->loopLevel() > 1;
+  return takesCommands() && depth_ == 0 && host_.contexts().depth() == 0 && !hasPopup && !isWithinLoop;
+}
+
+std::vector<std::string> Session::restart() {
+  ToolTable& tools = host_.tools();
+  const std::string selected = tools.selected() == nullptr ? std::string() : tools.selected()->name;
+  selectTool(tools, [](const ToolRecord& tool) { return tool.plugin == nullptr; });  // while plug-ins listen
+  endLife();
+  host_.forgetRegistrations();
+  std::vector<std::string> complaints;
+  std::vector<LoadedPlugin> ended = std::exchange(plugins_, {});
+  for (LoadedPlugin& plugin : ended) {
+    plugin.globals = nullptr;
+    std::string reason = startPlugin(plugin);
+    if (reason.empty()) {
+      plugins_.push_back(std::move(plugin));
+    } else {
+      complaints.push_back(std::move(reason));
+    }
+  }
+  start();
+  tellOfDocuments();
+  selectTool(tools, [&](const ToolRecord& tool) { return tool.name == selected; });
+  return complaints;
+}
+
+void Session::tellOfDocuments() {
+  if (host_.documents().all().empty()) return;
+  for (const auto& open : host_.documents().all()) notify(kAIDocumentOpenedNotifier, open->handle());
+  notifyOfCurrentDocument();
 }
 
 void Session::notify(const char* type, void* data) {

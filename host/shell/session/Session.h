@@ -55,6 +55,14 @@ class Session {
   // Tells every plug-in; safe to call twice.
   void shutdown();
 
+  // False also while a plug-in is at work: within a message, a context or an event loop of its own.
+  bool isIdle() const;
+  // Ends the plug-ins and starts them again, so that they read anew what they read at the start, such as
+  // texts. They are told of the open documents, and the selected tool is selected again if it is there again.
+  // To be called when the session is idle. A sentence for each plug-in that did not start again and stays
+  // out.
+  std::vector<std::string> restart();
+
   // One message to one plug-in, as a step of its own if `stepName` is not empty. An exception that comes
   // out of it counts as kSPExceptionError; contexts that the plug-in has left behind are ended.
   SPErr send(SPPluginRef plugin, const char* caller, const char* selector, SPMessageData& message,
@@ -77,6 +85,10 @@ class Session {
     PluginBundle bundle;
     void* globals = nullptr;
   };
+
+  std::string startPlugin(LoadedPlugin& plugin);  // empty, or why it stays out
+  void endLife();                                 // the last messages, to all
+  void tellOfDocuments();
 
   SPErr sendTo(LoadedPlugin& plugin, const char* caller, const char* selector, SPMessageData& message,
                const std::string& stepName);

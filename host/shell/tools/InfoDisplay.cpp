@@ -1,42 +1,41 @@
 #include "InfoDisplay.h"
 
-#include <array>
-#include <charconv>
+#include "Geometry.h"
+#include "RulerUnits.h"
 
 namespace host {
 namespace {
 
-constexpr int kDecimals = 2;
-
-// Numbers too long to be shown in full are none that a drawing has.
-std::string fixed(double value) {
-  std::array<char, 64> buffer{};
-  const auto [end, error] =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, kDecimals);
-  if (error != std::errc()) return "-";
-  const std::string text(buffer.data(), end);
-  return text == "-0.00" ? "0.00" : text;
-}
+constexpr int kIndent = 6;  // pixels
 
 }  // namespace
 
-std::string infoText(const ToolInfo& info, double pointsPerUnit) {
+std::string infoText(const ToolInfo& info, const Document& document) {
   std::string text;
   for (const auto& [variable, value] : info) {
     if (!text.empty()) text += "   ";
     text += variable == kInfoDocX ? "X " : "Y ";
-    text += fixed(value * pointsPerUnit) + " pt";
+    text += lengthText(value * document.scale(), document.rulerUnits());
   }
   return text;
 }
 
-InfoDisplay::InfoDisplay() {
-  setTextFormat(Qt::PlainText);
-  setAccessibleName("Position of the pointer");
+std::string selectionText(const Document& document, const AIRealRect& extent) {
+  const std::size_t count = document.selectedCount();
+  if (count == 0) return {};
+  std::string text = std::to_string(count) + (count == 1 ? " object" : " objects");
+  if (isEmpty(extent)) return text;
+  const AIRulerUnits units = document.rulerUnits();
+  const double width = (extent.right - extent.left) * document.scale();
+  const double height = (extent.top - extent.bottom) * document.scale();
+  return text + ", " + lengthNumber(width, units) + " \u00d7 " + lengthText(height, units);
 }
 
-void InfoDisplay::show(const ToolInfo& info, double pointsPerUnit) {
-  setText(QString::fromStdString(infoText(info, pointsPerUnit)));
+InfoDisplay::InfoDisplay() {
+  setTextFormat(Qt::PlainText);
+  setAccessibleName("Selection and place of the pointer");
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // no text makes the window wider
+  setIndent(kIndent);
 }
 
 }  // namespace host

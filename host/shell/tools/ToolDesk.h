@@ -6,6 +6,9 @@
 #include <string>
 #include <tuple>
 
+#include "HostTools.h"
+#include "SelectionExtent.h"
+#include "SelectionOverlay.h"
 #include "ToolMessages.h"
 #include "ViewEvents.h"
 
@@ -23,13 +26,14 @@ class ToolDesk : public ViewEvents {
  public:
   struct Surroundings {
     std::function<DrawingView*(const OpenDocument&)> viewOf;  // null if the document has no view
-    // After a plug-in was at work for the user, who may see another drawing now.
+    // After a tool was at work for the user, who may see another drawing or another selection now. Plug-ins
+    // have been told.
     std::function<void(bool drawingHasChanged)> done;
     // Then, if it answered with a code and told the user nothing: the tool's title and the code.
     std::function<void(const std::string& title, SPErr code)> failed;
   };
 
-  // Adds a Select tool to the host, selects it, and puts its palette and display into `window`. The other
+  // Adds the application's own tools to the host and puts its palette and display into `window`. The other
   // objects, the window among them, must outlive it.
   ToolDesk(QMainWindow& window, Host& host, Session& session, Surroundings surroundings);
   ~ToolDesk() override;
@@ -50,9 +54,12 @@ class ToolDesk : public ViewEvents {
  private:
   using ShownCursor = std::tuple<const DrawingView*, SPPluginRef, std::int32_t, double>;
 
-  void addSelectTool();
   void followHost();
-  void selectionChanged();
+  void toolChanged();
+  void artSelected();
+  void setPointer(const PointerEvent& event);
+  HostTool* ownTool() const;  // null while a plug-in's tool is selected, or no command is taken
+  void showOwnCursor(DrawingView& view, Qt::KeyboardModifiers modifiers);
   void showInfo();
   void showCursor(const PluginRecord& plugin, std::int32_t id);
   void editOptions(AIToolHandle tool);
@@ -63,10 +70,15 @@ class ToolDesk : public ViewEvents {
   Host& host_;
   Session& session_;
   Surroundings surroundings_;
+  HostTools ownTools_;
   ToolMessages messages_;
   ToolPalette* palette_;
   InfoDisplay* info_;
-  ShownCursor cursor_{};
+  ShownCursor cursor_{};                // of a plug-in
+  HostTool* pressed_ = nullptr;         // between a press and its release
+  std::optional<AIRealPoint> pointer_;  // where it is over a view, in document units
+  SelectionExtent extent_;
+  SelectionOverlay overlay_;
 };
 
 }  // namespace host

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "Host.h"
+#include "HostTools.h"
 #include "PluginPictures.h"
+#include "ThemePalette.h"
 
 namespace host {
 namespace {
@@ -41,8 +43,8 @@ QKeySequence keysOf(int place) {
 
 }  // namespace
 
-ToolPalette::ToolPalette(Host& host, ToolPlace::Commands commands)
-    : QToolBar("Tools"), host_(host), commands_(std::move(commands)) {
+ToolPalette::ToolPalette(Host& host, const HostTools& ownTools, ToolPlace::Commands commands)
+    : QToolBar("Tools"), host_(host), ownTools_(ownTools), commands_(std::move(commands)) {
   setAccessibleName("Tools");
   setOrientation(Qt::Vertical);
   setMovable(false);
@@ -75,8 +77,9 @@ void ToolPalette::showGroup(int group, ToolPlace& place) {
   std::vector<PaletteTool> tools;
   for (const ToolRecord& tool : host_.tools().all()) {
     if (tool.group != group) continue;
+    const bool isOwn = tool.plugin == nullptr;
     tools.push_back({tool.handle, QString::fromStdString(tool.title), QString::fromStdString(tool.tooltip),
-                     toolIcon(host_, tool, theme())});
+                     isOwn ? ownTools_.icon(tool.handle, iconInk(theme())) : toolIcon(host_, tool, theme())});
   }
   const ToolRecord* selected = host_.tools().selected();
   place.show(tools, host_.tools().visibleMember(group)->handle,

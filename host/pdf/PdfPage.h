@@ -1,0 +1,63 @@
+// The content of a page: an artboard with all art, layer by layer.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "PdfInks.h"
+#include "PdfLayers.h"
+#include "PdfPictures.h"
+#include "PdfPlan.h"
+#include "PdfStates.h"
+
+namespace host {
+
+// What all pages share.
+struct PdfParts {
+  const SvgDrawing& drawing;
+  const PdfPlan& plan;
+  PdfLayers& layers;
+  PdfInks& inks;
+  PdfStates& states;
+  PdfPictures& pictures;
+};
+
+// Where an artboard's page shows a point of the document, in units of the page: a point, or `userUnit`
+// points.
+AIRealMatrix pageFromDocument(const Document& document, std::size_t artboard, double userUnit);
+
+class PdfPage {
+ public:
+  PdfPage(PdfParts& parts, std::size_t artboard, double userUnit);
+
+  // The operators. Pictures are asked for on the way and stand in it as "/P1 Do".
+  std::string content();
+
+ private:
+  void addLayer(LayerId id);
+  void addTree(ArtId root);
+  bool enter(ArtId id);  // true if its children are to be gone through; then leave() follows
+  void leave(ArtId id);
+  void addPicture(NodeIndex element);
+  void addPaths(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& style);
+  void addBody(ArtId id, const Body& body);
+  std::size_t clip(const Clip* clip);  // how many states were pushed
+  void pop(std::size_t states);
+  void setStroke(const AIStrokeStyle& stroke);
+  void choose(const PdfState& state);
+  bool isOnPage(ArtId id) const;
+
+  PdfParts& parts_;
+  const Document& document_;
+  const std::size_t artboard_;
+  const AIRealMatrix matrix_;
+  const double scale_;  // page units in a document unit
+  std::string text_;
+  std::size_t lastPicture_ = kNone;  // at the end of the text, to be joined by the next
+  PdfState state_;
+  bool hasState_ = false;
+
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+};
+
+}  // namespace host
