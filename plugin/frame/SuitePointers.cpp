@@ -14,6 +14,7 @@
 #include "AIFolders.h"
 #include "AIHitTest.h"
 #include "AILayer.h"
+#include "AIMatchingArt.h"
 #include "AIMenu.h"
 #include "AINotifier.h"
 #include "AIPaintStyle.h"
@@ -48,6 +49,7 @@ const AIDocumentViewSuite* sAIDocumentView = nullptr;
 const AIFoldersSuite* sAIFolders = nullptr;
 const AIHitTestSuite* sAIHitTest = nullptr;
 const AILayerSuite* sAILayer = nullptr;
+const AIMatchingArtSuite* sAIMatchingArt = nullptr;
 const AIMenuSuite* sAIMenu = nullptr;
 const AIPaintStyleSuite* sAIPaintStyle = nullptr;
 const AIPanelSuite* sAIPanel = nullptr;

@@ -17,6 +17,7 @@
 #include "AIFolders.h"
 #include "AIHitTest.h"
 #include "AILayer.h"
+#include "AIMatchingArt.h"
 #include "AIMenu.h"
 #include "AINotifier.h"
 #include "AIPaintStyle.h"
@@ -103,7 +104,7 @@ constexpr SuiteTable kInitialTable = {{
     Uncalled<38>("AI Live Effect Suite", 1007),
     Uncalled<39>("AI Mask Suite", 1005),
     Uncalled<40>("AI Mask Flattener Suite", 1005),
-    Uncalled<41>("AI Matching Art Suite", 1007),
+    Called<&sAIMatchingArt>(kAIMatchingArtSuite, kAIMatchingArtSuiteVersion),
     Uncalled<42>("AI MdMemory Suite", 1003),
     Called<&sAIMenu>(kAIMenuSuite, kAIMenuSuiteVersion),
     Uncalled<44>("AI Mesh Suite", 1006),

@@ -33,6 +33,11 @@ AISwatchRef EnsureLineTypeSwatch(LineType& type, const char* groupName) {
     GetSwatchColor(swatch, &type.color);
     return swatch;
   }
+  const bool isPlainPaint = !type.isCustomDataModel && type.color.kind != kCustomColor;
+  if (isPlainPaint) {
+    if (AISwatchRef swatch = FindSwatch(nullptr, type.name, type.color.kind); swatch != nullptr)
+      return swatch;
+  }
   AISwatchGroupRef group = EnsureSwatchGroup(groupName);
   if (type.isCustomDataModel) MakeCustomColor(type);
   AISwatchRef swatch = sAISwatchGroup->AddSwatch(group, &type.color, 0);

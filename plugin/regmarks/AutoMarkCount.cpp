@@ -1,6 +1,7 @@
 #include "AutoMarkCount.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "ArtBounds.h"
 #include "CurrentDocument.h"
@@ -32,7 +33,11 @@ std::int64_t AutoMarkCountFromSlider(double fraction) {
 }
 
 double SliderFromAutoMarkCount(std::int64_t count) {
-  return (static_cast<double>(count) - static_cast<double>(kFewestAutoMarks)) / ScaleLength();
+  const double scale = ScaleLength();
+  const double wanted = static_cast<double>(count) - static_cast<double>(kFewestAutoMarks);
+  const double fraction = wanted / scale;
+  // A quotient that came out too small would be one mark less on its way back.
+  return scale * fraction < wanted ? std::nextafter(fraction, 1.0) : fraction;
 }
 
 }  // namespace Vandrell::Corvane

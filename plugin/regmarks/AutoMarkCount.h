@@ -12,7 +12,7 @@ constexpr std::int64_t kFewestAutoMarks = 2;
 
 std::int64_t MaxAutoMarkCount();  // 12 when there is no art to measure
 
-// `fraction` runs from 0 (Few) to 1 (Many); others go on in the same line.
+// `fraction` runs from 0 (Few) to 1 (Many); others go on in the same line. A count survives both ways.
 std::int64_t AutoMarkCountFromSlider(double fraction);
 double SliderFromAutoMarkCount(std::int64_t count);
 

@@ -55,10 +55,4 @@ void CutOption::SavePreferences() const {
   SaveChoice(kActionKey, action);
 }
 
-void CutOption::ResetColors() {
-  const bool isCross = shape == kCrossRegmark;
-  fillColor = isCross ? NoRegmarkColor() : BlackRegmarkColor();
-  strokeColor = isCross ? BlackRegmarkColor() : NoRegmarkColor();
-}
-
 }  // namespace Vandrell::Corvane

@@ -35,10 +35,6 @@ class CutOption {
   void LoadPreferences();
   void SavePreferences() const;
 
-  // The paints that a user is offered first for this shape: a round mark is a black disc, a cross has black
-  // bars without a ground behind them.
-  void ResetColors();
-
   std::uint32_t shape = kRoundRegmark;
   std::uint32_t action = kCornerMarks;
   std::int64_t maxCount;                              // the Many end of the Few to Many scale

@@ -20,8 +20,8 @@ struct SharedText {
   std::string_view language;  // empty: all of them
   std::string_view text;
 };
-constexpr SharedText kSharedTexts[] = {
-    {"", "Vandrell"}, {"", "corvane"}, {"", "OK"}, {"de", "Name:"}, {"de", "Normal"}};
+constexpr SharedText kSharedTexts[] = {{"", "Vandrell"}, {"", "corvane"},  {"", "OK"},
+                                       {"de", "Name:"},  {"de", "Normal"}, {"es", "Color:"}};
 
 bool IsShared(std::string_view language, std::string_view text) {
   return std::any_of(std::begin(kSharedTexts), std::end(kSharedTexts), [=](const SharedText& shared) {

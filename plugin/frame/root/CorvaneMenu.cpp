@@ -1,8 +1,6 @@
 #include "CorvaneMenu.h"
 
-#include "CutOption.h"
 #include "CutPlugin.h"
-#include "CutTool.h"
 #include "PlaceChosenMarks.h"
 #include "TextKey.h"
 
@@ -15,16 +13,7 @@ CorvaneMenu::CorvaneMenu(CutPlugin* owner, const char* group)
 }
 
 AIErr CorvaneMenu::Go(const AIMenuMessage& /*message*/) {
-  CutOption option;
-  option.LoadPreferences();
-  option.ResetColors();
-  option.SavePreferences();
-  CutTool* const tool = cutPlugin.GetTool(option.shape);
-  if (tool != nullptr) {
-    tool->SetColors(option.fillColor, option.strokeColor);
-    tool->RefreshAnnotator();
-  }
-  PlaceChosenMarks(option, tool);
+  PlaceChosenMarks(cutPlugin, TableHead::kIsRefreshed);
   return kNoErr;
 }
 

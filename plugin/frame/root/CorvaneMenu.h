@@ -1,4 +1,4 @@
-// "Add brevia Register Marks...": the marks of the current document anew.
+// "Add brevia Register Marks...": the marks of the current document anew, as the user wants them.
 #pragma once
 
 #include "HMX_AIMenu.h"

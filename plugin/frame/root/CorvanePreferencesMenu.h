@@ -5,9 +5,17 @@
 
 namespace Vandrell::Corvane {
 
+class CutPlugin;
+
 class CorvanePreferencesMenu : public HMX_AIMenu {
  public:
-  CorvanePreferencesMenu(HMX_AIPlugin* owner, const char* group);
+  CorvanePreferencesMenu(CutPlugin* owner, const char* group);
+
+  // Asks which line types the palette lists; it follows at once.
+  AIErr Go(const AIMenuMessage& message) override;
+
+ private:
+  const CutPlugin& cutPlugin;
 };
 
 }  // namespace Vandrell::Corvane

@@ -1,5 +1,6 @@
 #include "CutPlugin.h"
 
+#include "CutLayerDialog.h"
 #include "CutOption.h"
 #include "DocumentChangedNotifier.h"
 #include "HMX_AISuiteManager.h"
@@ -40,6 +41,8 @@ AIErr CutPlugin::Start(const SPMessageData& message) {
 }
 
 AIErr CutPlugin::OnAppStartup() {
+  layerDialog = new CutLayerDialog;
+  AddDialog(layerDialog);
   documentChangedNotifier = MakeNotifier<DocumentChangedNotifier>(this);
   selectedLineTypesNotifier = MakeNotifier<SelectedLineTypesUpdateNotifier>(this);
   colorSchemeNotifier = MakeNotifier<UIColorSchemeNotifier>(this);

@@ -47,16 +47,9 @@ CutTool::CutTool(CutPlugin* owner, const char* name, int iconID, std::uint32_t m
 
 CutTool::~CutTool() = default;
 
-// As if the stored options had been accepted.
 AIErr CutTool::EditOptions(const AIToolMessage& /*message*/) {
   if (!HasDocument()) return kNoErr;
-  CutOption option;
-  option.LoadPreferences();
-  option.ResetColors();
-  option.SavePreferences();
-  CutTool* const chosen = CutPlugin::GetInstance()->GetTool(option.shape);
-  if (chosen != nullptr) chosen->SetColors(option.fillColor, option.strokeColor);
-  return PlaceChosenMarks(option, chosen);
+  return PlaceChosenMarks(*CutPlugin::GetInstance(), TableHead::kStays);
 }
 
 AIErr CutTool::TrackCursor(const AIToolMessage& message) {

@@ -19,6 +19,8 @@ class CutTool : public HMX_AITool {
   CutTool(CutPlugin* owner, const char* name, int iconID, std::uint32_t markShape, AIAddToolData* data);
   ~CutTool() override;
 
+  // The command for register marks, whose shape may be that of the other tool. Its code is handed on; without
+  // a document nothing is asked.
   AIErr EditOptions(const AIToolMessage& message) override;
   AIErr TrackCursor(const AIToolMessage& message) override;
   // Draws a mark at the cursor. The user is told if the host refuses it. The other tool's colours are the

@@ -2,9 +2,12 @@
 
 #include "AIPreference.h"
 #include "CutOption.h"
+#include "CutOptionDialog.h"
+#include "CutPlugin.h"
 #include "CutTool.h"
 #include "PlaceRegmarks.h"
 #include "ShowCriticalMessage.h"
+#include "TextKey.h"
 
 namespace Vandrell::Corvane {
 namespace {
@@ -15,11 +18,25 @@ void StoreInteger(const char* key, std::int32_t value) {
   sAIPreference->PutIntegerPreference(kRegmarkPreferencePrefix, key, value);
 }
 
-}  // namespace
+// Stores what the user accepts.
+bool AskFor(CutOption& option) {
+  option.LoadPreferences();
+  CutOptionDialog dialog(&option);
+  if (dialog.Run(TextKey("brevia Register Marks"), true) != CutOptionDialog::kAccepted) return false;
+  option.SavePreferences();
+  return true;
+}
 
-AIErr PlaceChosenMarks(const CutOption& option, const CutTool* tool) {
-  if (tool != nullptr) sAITool->SetSelectedTool(tool->tool);
+void ChooseTool(CutTool* tool, const CutOption& option, TableHead tableHead) {
+  if (tool != nullptr) {
+    tool->SetColors(option.fillColor, option.strokeColor);
+    if (tableHead == TableHead::kIsRefreshed) tool->RefreshAnnotator();
+    sAITool->SetSelectedTool(tool->tool);
+  }
   StoreInteger(kSelectedToolPreference, static_cast<std::int32_t>(option.shape));
+}
+
+AIErr Place(const CutOption& option) {
   std::int32_t failures = 0;
   const AIErr error = PlaceRegmarks(option, failures);
   StoreInteger(kLastNotPlacedPreference, failures);
@@ -28,6 +45,15 @@ AIErr PlaceChosenMarks(const CutOption& option, const CutTool* tool) {
         "Not all regmarks are placed because not enough space in the current artboard.");
   }
   return error;
+}
+
+}  // namespace
+
+AIErr PlaceChosenMarks(const CutPlugin& plugin, TableHead tableHead) {
+  CutOption option;
+  if (!AskFor(option)) return kNoErr;
+  ChooseTool(plugin.GetTool(option.shape), option, tableHead);
+  return Place(option);
 }
 
 }  // namespace Vandrell::Corvane
