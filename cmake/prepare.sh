@@ -2,10 +2,12 @@
 
 corvane_packages=(
   g++ cmake ninja-build pkg-config ccache mold
-  libexpat1-dev librsvg2-dev liblcms2-dev libboost-dev libcli11-dev nlohmann-json3-dev
+  libexpat1-dev librsvg2-dev libqpdf-dev liblcms2-dev libboost-dev libcli11-dev nlohmann-json3-dev
   qtbase5-dev libqt5gui5 libqt5svg5-dev qttranslations5-l10n
   libgtest-dev libgmock-dev libbenchmark-dev gettext libgettextpo-dev
   fonts-dejavu-core fonts-ipafont-gothic xvfb xauth
+  lintian desktop-file-utils appstream man-db file
+  qpdf mupdf-tools ghostscript poppler-utils libx11-dev libxtst-dev
 )
 
 install_packages() {

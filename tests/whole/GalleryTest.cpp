@@ -86,7 +86,7 @@ class GalleryTest : public testing::Test {
     world.session.chooseMenuItem(kPaletteItem);
     QCoreApplication::processEvents();
     for (auto* widget : world.window->findChildren<QWidget*>()) {
-      if (widget->inherits("RVADM_NonModalDialog")) return *widget;
+      if (widget->inherits("RVADM_NonModalDialog") && widget->isVisible()) return *widget;
     }
     throw std::runtime_error("no palette");
   }

@@ -30,7 +30,8 @@ inline std::string quoted(const std::string& text) {
 inline ProcessResult runHost(const std::vector<std::string>& arguments, const std::string& input = {},
                              const std::string& before = {}) {
   const ScratchFolder scratch;
-  std::string command = before + " XDG_CONFIG_HOME=" + quoted(scratch.file("config")) + " " +
+  std::string command = before + " XDG_CONFIG_HOME=" + quoted(scratch.file("config")) +
+                        " XDG_STATE_HOME=" + quoted(scratch.file("state")) + " " +
                         quoted(std::string(CORVANE_BIN) + "/corvane-host");
   for (const std::string& argument : arguments) command += " " + quoted(argument);
   command += " <" + quoted(scratch.write("in", input)) + " >" + quoted(scratch.file("out")) + " 2>" +

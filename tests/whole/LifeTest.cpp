@@ -43,6 +43,7 @@ std::vector<std::string> notifierNames(Host& host) {
 }
 
 TEST(Life, NotifiersAreRegisteredAsThePluginComesUp) {
+  ensureApplication();
   Host host;
   Session session(host);
   ASSERT_EQ(session.loadPlugin(corvaneBundle()), "");
@@ -57,6 +58,7 @@ TEST(Life, NotifiersAreRegisteredAsThePluginComesUp) {
 }
 
 TEST(Life, TheStoredToolBringsADeferredActionThatRunsOnce) {
+  ensureApplication();
   for (const std::int32_t stored : {0, 1}) {
     Host host;
     host.preferences().put("Corvane", "SelectedTool", stored);
@@ -143,7 +145,7 @@ TEST(Life, ManyLivesInOneProcessLeaveNothingHeldTwice) {
     ASSERT_EQ(world.complaint, "");
     EXPECT_EQ(world.session.chooseMenuItem(kMarksKey), kSPNoError);
     world.session.shutdown();
-    if (life == 0) holds = world.host.holds();
+    if (life < 2) holds = world.host.holds();  // one suite is acquired once a process, in the first life
     EXPECT_EQ(world.host.holds(), holds);
   }
 }

@@ -11,6 +11,7 @@ namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 const std::string kExamples = CORVANE_EXAMPLES;
@@ -72,14 +73,31 @@ TEST(MarksCommand, CornerMarksStandWhereTheRulesPutThem) {
   }
 }
 
-TEST(MarksCommand, ACrossIsBlackBarsOfItsSize) {
+// The dialog of the command decides what the options come to.
+TEST(MarksCommand, ADiscHasNoStrokeAndACrossHasBars) {
   const ScratchFolder scratch;
-  const ProcessResult run =
-      runHost({"marks", scratch.write("in.svg", rectangleOnPage(100, 100, 400, 500)), "-o",
-               scratch.file("out.svg"), "--shape", "cross", "--size", "10pt", "--weight", "2pt", "--json"});
-  EXPECT_EQ(run.code, 0) << run.err;
-  expectNear(centres(run), {{90 + 283.46, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}});
-  EXPECT_THAT(readText(scratch.file("out.svg")), HasSubstr("ch:fill=\"cmyk(0 0 0 1)\""));
+  const std::string input = scratch.write("in.svg", rectangleOnPage(100, 100, 400, 500));
+  const struct { const char *shape, *weight; } table[] = {{"round", "3pt"}, {"cross", "2pt"}, {"cross", "0"}};
+  for (const auto& row : table) {
+    SCOPED_TRACE(std::string(row.shape) + " " + row.weight);
+    const ProcessResult run = runHost({"marks", input, "-o", scratch.file("out.svg"), "--shape", row.shape,
+                                       "--size", "10pt", "--weight", row.weight, "--json"});
+    EXPECT_EQ(run.code, 0) << run.err;
+    expectNear(centres(run), {{90 + 283.46, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}});
+    const std::string marked = readText(scratch.file("out.svg"));
+    EXPECT_THAT(marked, HasSubstr("ch:fill=\"cmyk(0 0 0 1)\""));
+    EXPECT_THAT(marked, Not(HasSubstr("ch:stroke=")));
+  }
+}
+
+TEST(MarksCommand, ARunStoresNothing) {
+  const ScratchFolder scratch;
+  const std::string command = "XDG_CONFIG_HOME=" + quoted(scratch.file("config")) + " " + CORVANE_BIN +
+                              "/corvane-host marks " + quoted(kExamples + "/sticker-sheet.svg") +
+                              " --size 9mm -o " + quoted(scratch.file("out.svg"));
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_TRUE(scratch.has("out.svg"));
+  EXPECT_FALSE(scratch.has("config"));
 }
 
 TEST(MarksCommand, ADrawingIsMarkedTheSameAloneAndAmongOthers) {

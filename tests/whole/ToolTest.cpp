@@ -288,6 +288,7 @@ TEST_F(MarkTools, AnyRefusedCallOfAClickLeavesAValidDocument) {
 }
 
 TEST(StoredMarkTool, ShowsInThePaletteWithoutBeingSelected) {
+  ensureApplication();
   Host host;
   const AIToolHandle own = host.tools().add({}).handle;
   host.tools().select(own);
@@ -306,8 +307,10 @@ TEST(RefusedTools, LeaveThePluginAtWork) {
   for (const char* rule : {"AI Tool Suite:AddTool", "AI Tool Suite:AddTool:1",
                            "AI Tool Suite:SetToolInfoVars", "AI Tool Suite:GetToolNumberFromName"}) {
     SCOPED_TRACE(rule);
+    ensureApplication();
     Host host;
     Session session(host);
+    const DialogAnswerer answerer(host);
     ASSERT_EQ(host.refusal().add(rule), "");
     ASSERT_EQ(session.loadPlugin(corvaneBundle()), "");
     session.start();

@@ -41,6 +41,23 @@ TEST(WindowCommand, ScreenshotsAreAsSharpAsTheDisplay) {
   EXPECT_NE(large.scaled(small.size()).scaled(large.size()), large);
 }
 
+TEST(WindowCommand, LooksAsItWasChosenLastOrAsItIsTold) {
+  const ScratchFolder scratch;
+  struct Look {
+    std::vector<std::string> options;
+    bool isDark;
+  };
+  const std::vector<std::string> stored{"--pref", "corvane-host/Theme=dark"};
+  for (const Look& look :
+       {Look{{}, false}, Look{stored, true}, Look{{stored[0], stored[1], "--theme", "light"}, false}}) {
+    std::vector<std::string> arguments = look.options;
+    arguments.insert(arguments.end(), {"--screenshot", scratch.file("look.png")});
+    EXPECT_EQ(runHost(arguments, {}, kOffscreen).code, 0);
+    const QImage picture(QString::fromStdString(scratch.file("look.png")));
+    EXPECT_EQ(picture.pixelColor(picture.width() / 2, 3).lightness() < 128, look.isDark);
+  }
+}
+
 TEST(WindowCommand, ScreenshotTellsWhatFailedAndStoresNothing) {
   const ScratchFolder scratch;
   const ProcessResult missing =

@@ -25,30 +25,68 @@ class CountedPalette {
 };
 
 TEST_F(WindowTest, MenusShowWhatTheApplicationAndThePluginOffer) {
+  const std::string panels = "  ---\n  Layers [x]\n  Swatches [x]\n  Artboards [x]\n  " +
+                             world.textOf("Create Line Type Layers") + "\n";
   const std::string expectedEmpty =
       "File\n"
       "  Open...\n"
+      "  Open Recent (off)\n"
       "  ---\n"
       "  Save (off)\n"
       "  Save As... (off)\n"
+      "  Export... (off)\n"
       "  Close (off)\n"
       "  ---\n"
       "  Quit\n"
       "Edit\n"
       "  Undo (off)\n"
       "  Redo (off)\n"
+      "  Delete (off)\n"
+      "  ---\n"
+      "  Select All (off)\n"
+      "  Deselect (off)\n"
+      "  Select Inverse (off)\n"
+      "  Same Stroke Color (off)\n"
       "  ---\n"
       "  " +
       world.textOf("Vandrell ") + "\n    " + world.textOf("corvane Preferences...") +
       "\n"
       "View\n"
+      "  Zoom In (off)\n"
+      "  Zoom Out (off)\n"
+      "  Actual Size (off)\n"
+      "  Fit Artboard (off)\n"
+      "  Fit All (off)\n"
+      "  ---\n"
+      "  Rulers [x]\n"
+      "  Units (off)\n"
+      "    Points\n"
+      "    Picas\n"
+      "    Inches\n"
+      "    Feet\n"
+      "    Feet and Inches\n"
+      "    Yards\n"
+      "    Millimeters\n"
+      "    Centimeters\n"
+      "    Meters\n"
+      "    Q\n"
+      "    Pixels\n"
+      "  ---\n"
       "  Light [x]\n"
       "  Dark\n"
+      "  Language\n"
+      "    System [x]\n"
+      "    ---\n"
+      "    Deutsch\n"
+      "    English\n"
+      "    español\n"
+      "    français\n"
+      "    português (Brasil)\n"
+      "    日本語\n"
       "Window\n"
       "  " +
       world.textOf("Vandrell") + "\n    " + world.textOf("corvane ") + "\n      " +
-      world.textOf("Create Line Type Layers") + "\n      " + world.textOf(kMarksKey) +
-      " (off)\n"
+      world.textOf("Create Line Type Layers") + "\n      " + world.textOf(kMarksKey) + " (off)\n" + panels +
       "Help\n"
       "  About corvane-host\n"
       "  " +
@@ -56,9 +94,9 @@ TEST_F(WindowTest, MenusShowWhatTheApplicationAndThePluginOffer) {
   EXPECT_EQ(world.menuTree(), expectedEmpty);
 
   EXPECT_THAT(window.openFiles({kPoster, kStickers}), testing::IsEmpty());
-  EXPECT_THAT(world.menuTree(), HasSubstr("  Save\n  Save As...\n  Close\n"));
-  EXPECT_THAT(world.menuTree(), HasSubstr(world.textOf(kMarksKey) +
-                                          "\n  ---\n  1 full-bleed-poster.svg\n  2 sticker-sheet.svg [x]\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr("  Save\n  Save As...\n  Export...\n  Close\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr(world.textOf(kMarksKey) + "\n" + panels +
+                                          "  ---\n  1 full-bleed-poster.svg\n  2 sticker-sheet.svg [x]\n"));
 }
 
 TEST_F(WindowTest, TextsOfPluginsAreShownLiterally) {
@@ -67,7 +105,7 @@ TEST_F(WindowTest, TextsOfPluginsAreShownLiterally) {
   item.text = "Cut & &crease\tnow";
   world.host.menus().addItem(item, *world.host.menus().groupByName("View Zoom"));
   window.refresh();
-  EXPECT_THAT(world.menuTree(), HasSubstr("View\n  Cut & &crease now\n  ---\n  Light [x]\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr("  Cut & &crease now\n  ---\n  Rulers [x]\n"));
 }
 
 // The recorder is a plug-in that notes what it gets.

@@ -85,12 +85,19 @@ std::string shownText(const QString& text) {
   return plain.toStdString();
 }
 
-WindowWorld::WindowWorld(const std::vector<std::filesystem::path>& bundles) {
+WindowWorld::WindowWorld(const std::vector<std::filesystem::path>& bundles, Folders folders,
+                         std::int32_t autosaveSeconds)
+    : host({}, std::move(folders)) {
+  host.preferences().overlay("corvane-host", "AutosaveSeconds", autosaveSeconds);
   setenv("LANGUAGE", "C", 1);
   ensureApplication();
   setTheme(Theme::Light);
   window.emplace(host, session,
                  FileChooser{[this](QWidget*) { return filesToOpen; },
+                             [this](QWidget*, const std::string& proposed) {
+                               proposedFile = proposed;
+                               return fileToSave;
+                             },
                              [this](QWidget*, const std::string& proposed) {
                                proposedFile = proposed;
                                return fileToSave;
@@ -119,19 +126,34 @@ void WindowWorld::choose(const std::vector<std::string>& path) {
   for (const std::string& text : path) {
     QAction* entry = menu == nullptr ? entryOf(bar, text) : entryOf(*menu, text);
     ASSERT_NE(entry, nullptr) << text;
+    QMenu* const inside = entry->menu();  // a command may end its own entry
     if (menu == nullptr) {
       QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(entry).center());
     } else {
       QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(entry).center());
     }
-    menu = entry->menu();
+    menu = inside;
     if (menu != nullptr) waitUntilShown(*menu);
   }
   while (QWidget* popup = QApplication::activePopupWidget()) popup->close();
 }
 
+QMenu& WindowWorld::menu(const std::vector<std::string>& path) {
+  const QWidget* holder = window->menuBar();
+  for (const std::string& text : path) {
+    const QAction* entry = entryOf(*holder, text);
+    if (entry == nullptr || entry->menu() == nullptr) throw std::runtime_error("no menu " + text);
+    holder = entry->menu();
+  }
+  return *static_cast<QMenu*>(const_cast<QWidget*>(holder));
+}
+
 void WindowWorld::addMarks() {
-  const BoxAnswer answer(Qt::Key_Return);
+  QTimer answering;
+  QObject::connect(&answering, &QTimer::timeout, [] {
+    if (QWidget* modal = QApplication::activeModalWidget()) QTest::keyClick(modal, Qt::Key_Return);
+  });
+  answering.start(5);
   choose({"Window", textOf("Vandrell"), textOf("corvane "), textOf(kMarksKey)});
 }
 

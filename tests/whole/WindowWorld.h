@@ -51,7 +51,8 @@ std::string shownText(const QString& text);
 
 class WindowWorld {
  public:
-  explicit WindowWorld(const std::vector<std::filesystem::path>& bundles = {corvaneBundle()});
+  explicit WindowWorld(const std::vector<std::filesystem::path>& bundles = {corvaneBundle()},
+                       Folders folders = {}, std::int32_t autosaveSeconds = 30);
 
   // What the user's file dialogs will answer.
   std::vector<std::string> filesToOpen;
@@ -61,7 +62,8 @@ class WindowWorld {
   std::string textOf(const std::string& key);  // of a plug-in's menu item
   // Clicks through the menus. A failure is reported, and nothing chosen, if one of the texts is not there.
   void choose(const std::vector<std::string>& path);
-  void addMarks();  // through the menu, answering what the plug-in has to say
+  QMenu& menu(const std::vector<std::string>& path);  // throws if there is none
+  void addMarks();  // through the menu, accepting the options and answering what the plug-in has to say
   void activate();  // no window manager does it here when a box has closed
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers);
   Document& document() { return *host.currentDocument(); }

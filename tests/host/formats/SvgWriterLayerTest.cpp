@@ -1,3 +1,4 @@
+#include "Duplicate.h"
 #include "SvgWriterCase.h"
 
 namespace host {
@@ -89,6 +90,37 @@ std::vector<SvgWriterCase> layerCases() {
        file("\n <g id='A'><path d='M0 0h1'/></g>\n <g id='B'>\n  <path d='M0 0h1'/>\n </g>\n"),
        [](SvgDrawing& d) { d.document->deleteLayer(d.document->state().layers[0]); },
        file("\n <g id='A'><path d='M0 0h1'/></g>\n")},
+      {"a layer that a copy took the place of",
+       file("\n<g id='A'>\n <text id='t'>a</text><path d='M0 0h1'/></g>\n<g id='B'><path d='M0 0h1'/></g>\n",
+            kInk),
+       [](SvgDrawing& d) {
+         Document& document = *d.document;
+         for (const std::size_t index : {1U, 0U}) {
+           const LayerId old = document.state().layers[index];
+           duplicateLayer(document, old, kPlaceAboveAll, 0);
+           document.deleteLayer(old);
+         }
+         document.setName(document.art(rootOf(d, 0))->lastChild, "n");
+       },
+       file("\n<g id='B'><path d='M0 0h1'/></g>\n<g id='A'>\n <text id='t'"
+            " inkscape:label=\"n\">a</text><path d='M0 0h1'/></g>\n",
+            kInk)},
+      {"copies beside their originals and elsewhere",
+       file("\n <g id='A' transform='scale(2)'>\n  <text x='1' id='t'>a<tspan id='s'>b</tspan></text>\n "
+            "</g>\n",
+            kBoth),
+       [](SvgDrawing& d) {
+         Document& document = *d.document;
+         const ArtId text = document.art(rootOf(d, 0))->firstChild;
+         duplicateArt(document, text, kPlaceAbove, text);
+         document.setName(*duplicateArt(document, text, kPlaceInsideOnTop, newLayerRoot(d, "B")), "n");
+       },
+       file("\n <g id='A' transform='scale(2)'>\n  <text x='1' id='t'>a<tspan id='s'>b</tspan></text>\n"
+            "  <text x='1'>a<tspan>b</tspan></text>\n </g>\n"
+            " <g inkscape:groupmode=\"layer\" inkscape:label=\"B\" ch:added=\"layer\">\n"
+            "  <text x='1' transform=\"matrix(2 0 0 2 0 0)\" inkscape:label=\"n\">a<tspan>b</tspan></text>\n "
+            "</g>\n",
+            kBoth)},
       {"loose art that gets a layer", file("\n <defs/>\n <path d='M0 0h1'/>\n <text>a</text>\n", kInk),
        [](SvgDrawing& d) { d.document->editLayer(d.document->state().layers[0]).title = "Art"; },
        file("\n <defs/>\n <g inkscape:groupmode=\"layer\" inkscape:label=\"Art\">\n  <path d='M0 0h1'/>\n"

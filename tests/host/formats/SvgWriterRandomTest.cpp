@@ -1,6 +1,7 @@
 // Any sequence of changes must survive a save. Each seed makes one; a failure prints the file.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "SvgWriterCase.h"
@@ -43,11 +44,23 @@ class RandomEditor {
       : drawing_(drawing), document_(*drawing.document), random_(seed) {}
 
   void step() {
+    selectAny();
+    const std::vector<ArtId> selectedBefore = selected();
+    const std::uint64_t before = document_.stateMark();
     document_.beginStep("step");
     change();
+    selectAny();
     document_.endStep();
-    if (below(8) == 0) document_.undo();
-    if (below(8) == 0) document_.redo();
+    const std::vector<ArtId> selectedAfter = selected();
+    const std::uint64_t after = document_.stateMark();
+    selectAny();
+    if (below(8) == 0 && document_.undo() && document_.stateMark() == before) {
+      EXPECT_EQ(selected(), selectedBefore);
+    }
+    const bool wasStep = after != before;
+    if (below(8) == 0 && document_.redo() && wasStep && document_.stateMark() == after) {
+      EXPECT_EQ(selected(), selectedAfter);
+    }
   }
 
  private:
@@ -63,6 +76,20 @@ class RandomEditor {
       const ArtId id = 1 + below(static_cast<unsigned>(document_.artSlots()));
       if (document_.art(id)) return id;
     }
+  }
+
+  void selectAny() { document_.setSelected(anyArt(), below(3) != 0); }
+
+  std::vector<ArtId> selected() {
+    std::vector<ArtId> art = document_.selection();
+    std::sort(art.begin(), art.end());
+    for (const ArtId id : art) {
+      const Art* object = document_.art(id);
+      const bool isWhole = object != nullptr && object->type != kGroupArt &&
+                           document_.art(object->parent)->type != kCompoundPathArt;
+      EXPECT_TRUE(isWhole) << id;
+    }
+    return art;
   }
 
   AIPaintOrder anyOrder() {

@@ -112,5 +112,26 @@ std::vector<SvgWriterCase> swatchCases() {
 
 INSTANTIATE_TEST_SUITE_P(Swatches, SvgWriter, testing::ValuesIn(swatchCases()), caseName);
 
+// Programs tell lines by widths that they compare exactly.
+TEST(SvgWriterWidth, ComesBackExactlyWhateverTheScale) {
+  for (const double scale : {1.0, 3.0, 10.0}) {
+    for (int k = 1; k <= 60; k += 3) {
+      const std::string text =
+          "<svg xmlns='http://www.w3.org/2000/svg' xmlns:ch='urn:x-corvane-host:drawing:1' "
+          "ch:scale='" +
+          std::to_string(scale) + "' width='210mm' height='" + std::to_string(97 + k) + "mm' viewBox='0 0 " +
+          std::to_string(13 * k) + " " + std::to_string(100 * k) +
+          "' preserveAspectRatio='none'><g transform='rotate(" + std::to_string(k) + ") scale(1." +
+          std::to_string(k) + ")'><path id='p' d='M0 0h1' stroke='red'/></g></svg>";
+      SvgDrawing drawing = readDrawing(text);
+      const double width = 1.0 / drawing.document->scale();
+      ASSERT_EQ(drawing.document->scale(), scale);
+      drawing.document->setStyle(named(drawing, "p"), stroked(rgb(1, 0, 0), width, true));
+      const SvgDrawing again = readDrawing(saved(drawing));
+      EXPECT_EQ(again.document->styleOf(named(again, "p"))->stroke.width, width) << scale << " " << k;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace host

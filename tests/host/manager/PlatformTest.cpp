@@ -3,6 +3,7 @@
 #include "ScratchFolder.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <array>
 #include <cstdlib>
@@ -68,6 +69,26 @@ TEST(Platform, ResourcesAreFoundByPath) {
   EXPECT_EQ(path[0], 'x');
   EXPECT_TRUE(CopyBundleResourcePath(root.c_str(), "rv", "asc", nullptr, path.data(), english.size() + 1));
   EXPECT_FALSE(CopyBundleResourcePath(root.c_str(), nullptr, "asc", nullptr, path.data(), path.size()));
+}
+
+TEST(Platform, TheSharedFolderIsMadeForAllUsers) {
+  const ScratchFolder scratch;
+  const std::string wanted = scratch.file("all/shared");
+  std::array<char, 512> path{"before"};
+  setenv("CORVANE_SHARED_DATA", (wanted + "/").c_str(), 1);
+  const mode_t mask = umask(077);
+  EXPECT_FALSE(FSFindFolder(kLocalDomain, kSharedUserDataFolderType, path.data(), wanted.size()));
+  EXPECT_FALSE(FSFindFolder(kLocalDomain, 0, path.data(), path.size()));
+  EXPECT_FALSE(FSFindFolder(0, kSharedUserDataFolderType, path.data(), path.size()));
+  EXPECT_STREQ(path.data(), "before");
+  EXPECT_TRUE(FSFindFolder(kLocalDomain, kSharedUserDataFolderType, path.data(), path.size()));
+  umask(mask);
+  EXPECT_EQ(path.data(), wanted);
+  EXPECT_EQ(std::filesystem::status(wanted).permissions(), std::filesystem::perms::all);
+  EXPECT_NE(std::filesystem::status(scratch.path / "all").permissions(), std::filesystem::perms::all);
+  setenv("CORVANE_SHARED_DATA", scratch.write("file", "").c_str(), 1);
+  EXPECT_FALSE(FSFindFolder(kLocalDomain, kSharedUserDataFolderType, path.data(), path.size()));
+  unsetenv("CORVANE_SHARED_DATA");
 }
 
 }  // namespace

@@ -54,6 +54,9 @@ TEST(PreferredLanguages, AChosenOneGoesBeforeTheEnvironment) {
   preferLanguage("zh-Hant-TW");
   EXPECT_EQ(preferredLanguages(), Tags{"zh-Hant-TW"});
   EXPECT_STREQ(std::getenv("LANGUAGE"), "zh_Hant_TW");
+  preferLanguage("ja");
+  preferSystemLanguages();
+  EXPECT_EQ(preferredLanguages(), (Tags{"fr", "de"}));
 }
 
 }  // namespace

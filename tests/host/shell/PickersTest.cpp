@@ -99,7 +99,11 @@ class PickersTest : public testing::Test {
   }
 
   struct Application {
-    Application() { ensureApplication(); }
+    // Inks are to look the same whatever profiles this machine has.
+    Application() {
+      for (const char* variable : {"XDG_DATA_DIRS", "XDG_DATA_HOME", "HOME"}) qputenv(variable, "/nowhere");
+      ensureApplication();
+    }
   };
 
   const Application application;  // ahead of the widgets

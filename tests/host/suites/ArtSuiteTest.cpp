@@ -1,6 +1,8 @@
 #include <vector>
 
+#include "AIMatchingArt.h"
 #include "HostFixture.h"
+#include "SPBlocks.h"
 
 namespace {
 
@@ -68,6 +70,104 @@ TEST_F(ArtSuiteTest, MovesWithinADocument) {
   EXPECT_EQ(art.ReorderArt(root(), kPlaceInsideOnTop, inner), kBadParameterErr);
   EXPECT_EQ(art.ReorderArt(path, kPlaceAboveAll, nullptr), kNoErr);
   EXPECT_EQ(childrenOf(root()), (Handles{path, group}));
+}
+
+TEST_F(ArtSuiteTest, CopiesWithAllThatArtHolds) {
+  const AIArtHandle group = newArt(kGroupArt);
+  const AIArtHandle compound = newArt(kCompoundPathArt, kPlaceInsideOnTop, group);
+  const AIArtHandle part = newArt(kPathArt, kPlaceInsideOnTop, compound);
+  fill(compound);
+  AIArtHandle copy = nullptr;
+  struct Row {
+    AIArtHandle what;
+    AIPaintOrder order;
+    AIArtHandle prep;
+    AIErr code;
+  };
+  for (const Row& row : {Row{group, kPlaceInsideOnTop, group, kBadParameterErr},
+                         {group, kPlaceAbove, compound, kBadParameterErr},
+                         {group, kPlaceInsideOnTop, compound, kBadParameterErr},
+                         {compound, kPlaceInsideOnTop, part, kBadParameterErr},
+                         {group, kPlaceAbove, root(), kWrongKindErr},
+                         {nullptr, kPlaceAbove, group, kBadParameterErr},
+                         {part, kPlaceAbove, group, kNoErr},
+                         {group, kPlaceAbove, group, kNoErr}}) {
+    EXPECT_EQ(art.DuplicateArt(row.what, row.order, row.prep, &copy), row.code);
+  }
+  const Handles children = childrenOf(root());
+  ASSERT_EQ(children.size(), 3U);
+  EXPECT_EQ(children[1], copy);
+  AIPathStyle style{};
+  EXPECT_EQ(styles.GetPathStyle(children[0], &style), kNoErr) << "out of its compound path it has a style";
+  EXPECT_EQ(style.fillPaint, 1);
+  ASSERT_EQ(childrenOf(copy).size(), 1U);
+  EXPECT_EQ(childrenOf(childrenOf(copy)[0]).size(), 1U);
+
+  AILayerHandle upper = nullptr;
+  EXPECT_EQ(layers.InsertLayer(nullptr, kPlaceAboveAll, &upper), kNoErr);
+  AIArtHandle upperRoot = nullptr;
+  EXPECT_EQ(art.GetFirstArtOfLayer(upper, &upperRoot), kNoErr);
+  AIArtHandle lowerRoot = nullptr;
+  EXPECT_EQ(art.GetArtParent(group, &lowerRoot), kNoErr);
+  EXPECT_EQ(art.DuplicateArt(lowerRoot, kPlaceBelow, upperRoot, &copy), kNoErr) << "a whole layer";
+  EXPECT_EQ(document->state().layers.size(), 3U);
+  EXPECT_EQ(document->layer(document->state().layers[1])->title, "Layer 1");
+  EXPECT_EQ(childrenOf(copy).size(), 3U);
+}
+
+TEST_F(ArtSuiteTest, SelectedArtComesInABlockOfItsOwn) {
+  const auto& matching = ACQUIRE(AIMatchingArtSuite);
+  const auto& blocks = ACQUIRE(SPBlocksSuite);
+  AIArtHandle* found = nullptr;
+  std::int32_t count = -1;
+  EXPECT_EQ(matching.GetSelectedArt(&found, &count), kNoErr);
+  EXPECT_EQ(count, 0);
+  EXPECT_EQ(found, nullptr);
+  newArt(kPathArt);
+  const AIArtHandle path = newArt(kPathArt, kPlaceInsideOnTop, newArt(kGroupArt));
+  EXPECT_EQ(art.SetArtUserAttr(path, kArtSelected, kArtSelected), kNoErr);
+  EXPECT_EQ(matching.GetSelectedArt(&found, &count), kNoErr);
+  ASSERT_EQ(count, 1);
+  EXPECT_EQ(found[0], path);
+  EXPECT_EQ(blocks.FreeBlock(found), kNoErr);
+  EXPECT_EQ(matching.GetSelectedArt(nullptr, &count), kNoErr);
+  EXPECT_EQ(matching.GetSelectedArt(&found, nullptr), kBadParameterErr);
+  host.documents().close(*document);
+  EXPECT_EQ(matching.GetSelectedArt(nullptr, &count), kNoDocumentErr);
+}
+
+TEST_F(ArtSuiteTest, GroupsAreSelectedWithWhatTheyHold) {
+  const AIArtHandle group = newArt(kGroupArt);
+  const AIArtHandle path = newArt(kPathArt, kPlaceInsideOnTop, group);
+  const AIArtHandle compound = newArt(kCompoundPathArt, kPlaceInsideOnTop, group);
+  const AIArtHandle part = newArt(kPathArt, kPlaceInsideOnTop, compound);
+  const auto selected = [&] {
+    Handles found;
+    for (const AIArtHandle handle : {root(), group, path, compound, part}) {
+      std::int32_t attributes = 0;
+      EXPECT_EQ(art.GetArtUserAttr(handle, kArtSelected | kArtIsClipMask, &attributes), kNoErr);
+      if (attributes == kArtSelected) found.push_back(handle);
+    }
+    return found;
+  };
+  const struct {
+    AIArtHandle what;
+    std::int32_t attributes;
+    Handles selected;
+  } table[] = {
+      {part, kArtSelected, {root(), group, compound, part}},
+      {group, kArtSelected, {root(), group, path, compound, part}},
+      {compound, 0, {root(), group, path}},
+      {root(), 0, {}},
+  };
+  for (const auto& row : table) {
+    EXPECT_EQ(art.SetArtUserAttr(row.what, kArtSelected, row.attributes), kNoErr);
+    EXPECT_EQ(selected(), row.selected);
+  }
+  EXPECT_EQ(art.SetArtUserAttr(path, kArtSelected | kArtLocked, kArtLocked), kBadParameterErr);
+  ASSERT_EQ(layers.SetLayerEditable(topLayer(), 0), kNoErr);
+  EXPECT_EQ(art.SetArtUserAttr(path, kArtSelected, kArtSelected), kLayerLockedErr);
+  EXPECT_EQ(selected(), Handles{});
 }
 
 TEST_F(ArtSuiteTest, LockedAndHiddenLayersAreLeftAlone) {

@@ -118,20 +118,23 @@ void HandleTest::expectUnknown(AIArtHandle handle) {
   AIArtHandle other = nullptr;
   AILayerHandle layer = nullptr;
   std::int16_t number = 0;
+  std::int32_t attributes = 0;
   AIBoolean flag = 0;
   AIRealRect bounds{};
   AIPathSegment segment{};
   AIPathStyle style{};
   const AIUnicodeStringHandle name = text("name");
-  EXPECT_TRUE(each(
-      kBadParameterErr, art.NewArt(kPathArt, kPlaceAbove, handle, &other), art.DisposeArt(handle),
-      art.ReorderArt(handle, kPlaceAboveAll, nullptr), art.GetArtFirstChild(handle, &other),
-      art.GetArtSibling(handle, &other), art.GetArtParent(handle, &other), art.GetArtType(handle, &number),
-      art.GetLayerOfArt(handle, &layer), art.GetArtName(handle, name), art.SetArtName(handle, name),
-      art.GetArtTransformBounds(handle, nullptr, 0, &bounds), paths.GetPathSegmentCount(handle, &number),
-      paths.GetPathSegments(handle, 0, 1, &segment), paths.SetPathSegments(handle, 0, 1, &segment),
-      paths.GetPathClosed(handle, &flag), paths.SetPathClosed(handle, 1), styles.GetPathStyle(handle, &style),
-      styles.SetPathStyle(handle, &style)));
+  EXPECT_TRUE(each(kBadParameterErr, art.NewArt(kPathArt, kPlaceAbove, handle, &other),
+                   art.DisposeArt(handle), art.ReorderArt(handle, kPlaceAboveAll, nullptr),
+                   art.GetArtFirstChild(handle, &other), art.GetArtSibling(handle, &other),
+                   art.GetArtParent(handle, &other), art.GetArtType(handle, &number),
+                   art.GetLayerOfArt(handle, &layer), art.GetArtUserAttr(handle, kArtSelected, &attributes),
+                   art.SetArtUserAttr(handle, kArtSelected, kArtSelected), art.GetArtName(handle, name),
+                   art.SetArtName(handle, name), art.GetArtTransformBounds(handle, nullptr, 0, &bounds),
+                   paths.GetPathSegmentCount(handle, &number), paths.GetPathSegments(handle, 0, 1, &segment),
+                   paths.SetPathSegments(handle, 0, 1, &segment), paths.GetPathClosed(handle, &flag),
+                   paths.SetPathClosed(handle, 1), styles.GetPathStyle(handle, &style),
+                   styles.SetPathStyle(handle, &style)));
   EXPECT_EQ(other, nullptr);
 }
 

@@ -121,7 +121,10 @@ TEST_F(PluginLife, StartupActionsRunOnceWithThoseAddedMeanwhile) {
 }
 
 TEST(PluginFolders, AreTheHostsAsPathAndAsText) {
-  host::Host host({}, {"", "/opt/app/plug-ins", "/home/user/plug-ins"});
+  host::Folders folders;
+  folders.plugins = "/opt/app/plug-ins";
+  folders.userPlugins = "/home/user/plug-ins";
+  host::Host host({}, folders);
   host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
   FramePlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
   char path[32] = "untouched";

@@ -17,8 +17,8 @@ TEST(CutOption, ScalesTheCountWithTheArt) {
     double artWidth, artHeight;  // 0: no art
     double documentScale;
     std::int64_t maximum, halfWay;
-  } cases[] = {{20, 2000, 1, 13, 7},  {1583.9, 20, 1, 10, 6}, {1584, 20, 1, 11, 6},
-               {200, 100, 10, 13, 7}, {200, 100, 0.1, 10, 6}, {0, 0, 1, 12, 7}};
+  } cases[] = {{20, 2000, 1, 13, 7},   {1583.9, 20, 1, 10, 6}, {1584, 20, 1, 11, 6}, {200, 100, 10, 13, 7},
+               {200, 100, 0.1, 10, 6}, {0, 0, 1, 12, 7},       {3456, 20, 1, 24, 13}};
   for (const auto& c : cases) {
     SCOPED_TRACE(testing::Message() << c.artWidth << " x " << c.artHeight << " at " << c.documentScale);
     Drawing drawing({0, 792, 612, 0}, c.documentScale);
@@ -28,8 +28,11 @@ TEST(CutOption, ScalesTheCountWithTheArt) {
     EXPECT_EQ(option.count, c.halfWay);
     EXPECT_EQ(AutoMarkCountFromSlider(0), 2);
     EXPECT_EQ(AutoMarkCountFromSlider(1), c.maximum);
-    EXPECT_DOUBLE_EQ(SliderFromAutoMarkCount(c.halfWay),
-                     static_cast<double>(c.halfWay - 2) / static_cast<double>(c.maximum - 2));
+    for (std::int64_t count = 2; count <= c.maximum; ++count) {
+      const double fraction = SliderFromAutoMarkCount(count);
+      EXPECT_DOUBLE_EQ(fraction, static_cast<double>(count - 2) / static_cast<double>(c.maximum - 2));
+      EXPECT_EQ(AutoMarkCountFromSlider(fraction), count);
+    }
   }
 }
 

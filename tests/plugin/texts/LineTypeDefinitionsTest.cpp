@@ -20,17 +20,12 @@ using nlohmann::ordered_json;
 
 using RGB = std::array<double, 3>;
 
-RGB ScreenColor(const std::vector<double>& inks) {
-  const double light = 1 - inks[3];
-  return {(1 - inks[0]) * light, (1 - inks[1]) * light, (1 - inks[2]) * light};
-}
-
 double Distance(const RGB& a, const RGB& b) {
   return std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]);
 }
 
 // By name, which is that of a layer and a spot colour, and in each group by colour: on white, and not taken
-// for a register mark, which is black.
+// for a register mark, which is black. Art is known again by RGB definitions only.
 TEST(LineTypeDefinitions, BeginWithTheDefaultAndAreSpotColorsThatCanBeToldApart) {
   const ordered_json file = ordered_json::parse(
       std::ifstream(std::string(CORVANE_SOURCE) + "/plugin/bundle/CurveLayerDefinition.json"));
@@ -45,12 +40,10 @@ TEST(LineTypeDefinitions, BeginWithTheDefaultAndAreSpotColorsThatCanBeToldApart)
       EXPECT_EQ(name.find(kNameSeparator), std::string::npos) << name;
       EXPECT_TRUE(names.insert(name).second) << name;
       EXPECT_EQ(type.at("isCustomDataModel"), true) << name;
-      EXPECT_EQ(type.at("customColor").at("kind"), 0) << name;
+      EXPECT_EQ(type.at("customColor").at("kind"), 1) << name;
       EXPECT_EQ(type.at("customColor").at("flag"), 1) << name;
-      const std::vector<double> inks = type.at("customColor").at("cmyk");
-      ASSERT_EQ(inks.size(), 4U) << name;
-      for (const double ink : inks) EXPECT_TRUE(ink >= 0 && ink <= 1) << name;
-      const RGB color = ScreenColor(inks);
+      const RGB color = type.at("customColor").at("rgb");
+      for (const double component : color) EXPECT_TRUE(component >= 0 && component <= 1) << name;
       EXPECT_GT(std::min(Distance(color, {1, 1, 1}), Distance(color, {0, 0, 0})), 0.4) << name;
       for (const RGB& other : seen) EXPECT_GT(Distance(color, other), 0.3) << name;
       seen.push_back(color);

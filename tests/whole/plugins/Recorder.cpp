@@ -12,9 +12,10 @@ void listen(const SPMessageData& data) {
   const void* suite = nullptr;
   if (data.basic->AcquireSuite(kAINotifierSuite, kAINotifierSuiteVersion, &suite) != kSPNoError) return;
   const auto* notifiers = static_cast<const AINotifierSuite*>(suite);
-  for (const char* type : {kAIApplicationShutdownNotifier, kAISaveUserDataNotifier, kAIDocumentClosedNotifier,
-                           kAIDocumentChangedNotifier, kAIDocumentOpenedNotifier,
-                           kAIOwlAppInitDispatchedNotifier, kAIApplicationStartedNotifier}) {
+  for (const char* type :
+       {kAIApplicationShutdownNotifier, kAISaveUserDataNotifier, kAIDocumentClosedNotifier,
+        kAIDocumentChangedNotifier, kAIDocumentOpenedNotifier, kAIOwlAppInitDispatchedNotifier,
+        kAIApplicationStartedNotifier, kAIArtSelectionChangedNotifier, kAIArtPropertiesChangedNotifier}) {
     AINotifierHandle handle = nullptr;
     notifiers->AddNotifier(data.self, "recorder", type, &handle);
   }

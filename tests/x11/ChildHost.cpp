@@ -1,0 +1,57 @@
+#include "ChildHost.h"
+
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+constexpr std::chrono::seconds kPatience(30);
+
+[[noreturn]] void becomeHost(const std::string& home, const std::vector<std::string>& arguments) {
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+    setenv(name, home.c_str(), 1);
+  }
+  std::string program = std::string(CORVANE_BIN) + "/corvane-host";
+  std::vector<std::string> words = arguments;
+  std::vector<char*> argv{program.data()};
+  for (std::string& word : words) argv.push_back(word.data());
+  argv.push_back(nullptr);
+  execv(program.c_str(), argv.data());
+  _exit(127);
+}
+
+}  // namespace
+
+ChildHost::ChildHost(const std::string& home, const std::vector<std::string>& arguments) : process_(fork()) {
+  if (process_ == 0) becomeHost(home, arguments);
+}
+
+InputDevices::Place ChildHost::waitForWindow(InputDevices& devices, bool isDialog) {
+  const auto end = std::chrono::steady_clock::now() + kPatience;
+  while (std::chrono::steady_clock::now() < end) {
+    if (const auto place = devices.focusWindowOf(process_, isDialog)) return *place;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  throw std::runtime_error(isDialog ? "there is no dialog" : "there is no window");
+}
+
+void ChildHost::kill() {
+  if (process_ <= 0) return;
+  ::kill(process_, SIGKILL);
+  waitForEnd();
+}
+
+int ChildHost::waitForEnd() {
+  int status = 0;
+  waitpid(process_, &status, 0);
+  process_ = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}

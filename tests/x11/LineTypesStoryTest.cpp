@@ -1,0 +1,237 @@
+// Line types, from the palette and the preferences to the layers of a drawing, and back from the file.
+#include <gmock/gmock.h>
+
+#include <QApplication>
+
+#include "WindowStory.h"
+
+namespace host {
+namespace {
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr char kPalette[] = "Create Line Type Layers";
+constexpr char kPreferences[] = "corvane Preferences...";
+constexpr char kMove[] = "Move Selection to Line Type Layers";
+constexpr QRgb kRed = qRgb(255, 0, 0);
+constexpr QRgb kBlue = qRgb(0, 0, 255);
+constexpr QRgb kWhite = qRgb(255, 255, 255);
+constexpr AIRealPoint kSquare{200, 200};
+constexpr AIRealPoint kOblong{425, 200};
+constexpr AIRealPoint kText{150, 630};
+
+constexpr char kDrawing[] =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:inkscape="http://www.inkscape.org/namespaces/inkscape"
+  xmlns:sodipodi="http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd"
+  width="600pt" height="800pt" viewBox="0 0 600 800">
+<g inkscape:groupmode="layer" inkscape:label="Crease" sodipodi:insensitive="true"/>
+<g inkscape:groupmode="layer" inkscape:label="Art">
+<rect x="100" y="500" width="200" height="200" fill="#f00"/>
+<rect x="350" y="500" width="150" height="200" fill="#00f"/>
+<text x="100" y="200" font-size="90" font-family="DejaVu Sans">Text</text>
+</g></svg>
+)";
+
+class LineTypesStory : public WindowStory {
+ protected:
+  LineTypesStory() { file = scratch.write("drawing.svg", kDrawing); }
+
+  std::string row(const std::string& name) const { return std::string(kPalette) + " / " + name; }
+  void start(const User& user) {
+    open(user, file);
+    user.chooseMenu(productMenu(user, kPalette));
+    user.find(row("Kiss Cut"));
+    user.click("Select");
+  }
+  void select(const User& user, const AIRealPoint& art, std::string_view heldKey = {}) {
+    user.clickAt(placeOf(user, art), heldKey);
+    user.wait("a selection", [&] { return world.document().selectedCount() > 0; });
+  }
+  void openPreferences(const User& user, const std::string& group) {
+    user.chooseMenu({"Edit", user.see([&] { return world.textOf("Vandrell "); }),
+                     user.see([&] { return world.textOf(kPreferences); })});
+    user.waitForDialog("Create Line Type Layers Preferences");
+    user.click(group);
+  }
+  void typeName(const User& user, const std::string& name) {
+    user.waitForDialog("New Custom Line Type");
+    user.press("Ctrl+a");
+    user.type(name);
+    user.press("Return");
+  }
+
+  std::string file;
+};
+
+TEST_F(LineTypesStory, RowsBecomeLayers) {
+  tell([&](User& user) {
+    start(user);
+    user.shoot("palette");
+    EXPECT_FALSE(user.isEnabled(row("Create Line Type Layer")));
+    user.click(row("Score"));
+    EXPECT_TRUE(user.isEnabled(row("Create Line Type Layer")));
+    user.click(row("Through Cut"), "Ctrl");
+    user.click(row("Crease"), "Ctrl");
+    user.shoot("palette-three-rows");
+    user.click(row(kPalette));
+    user.wait("layers", [&] { return world.document().state().layers.size() == 4; });
+    EXPECT_THAT(layers(user), ElementsAre("Score", "Through Cut", "Art", "Crease")) << "one is there already";
+    user.find("Layers / ~Score");
+    user.press("Ctrl+z");
+    user.wait("no layers", [&] { return world.document().state().layers.size() == 2; });
+  });
+}
+
+TEST_F(LineTypesStory, ArtIsPaintedMovedSavedAndFoundAgain) {
+  tell([&](User& user) {
+    start(user);
+    select(user, kSquare);
+    user.click(row("Kiss Cut"));
+    waitForColour(user, kSquare, kWhite);
+    EXPECT_EQ(colourAt(user, kOblong), kBlue);
+    user.find(row(kMove));
+    EXPECT_FALSE(user.isThere(row("Create Line Type Layer")));
+    user.shoot("painted");
+    user.press("Ctrl+z");
+    waitForColour(user, kSquare, kRed);
+    user.find(row("Create Line Type Layer"));
+    user.press("Ctrl+Shift+z");
+    waitForColour(user, kSquare, kWhite);
+    user.click(row(kMove));
+    waitForArt(user, "Kiss Cut", 1);
+    EXPECT_EQ(layers(user)[0], "Kiss Cut");
+    user.find("Swatches / ~Kiss Cut");
+    user.shoot("moved");
+    save(user);
+    user.press("Ctrl+w");
+    user.wait("no drawing", [&] { return world.host.currentDocument() == nullptr; });
+    user.shoot("no-drawing");
+
+    open(user, file);
+    waitForArt(user, "Kiss Cut", 1);
+    EXPECT_NEAR(centresOn(user, "Kiss Cut")[0].x, 200, 0.5);
+    user.find("Swatches / ~Kiss Cut");
+    EXPECT_FALSE(user.isThere(row(kMove)));
+    const QRect shownRow = user.find(row("Kiss Cut"));
+    const QRgb patch = user.see([&] { return colourOfPixel({shownRow.x() + 10, shownRow.center().y()}); });
+    user.wheel(placeOf(user, {100, 200}), 12, "Ctrl");
+    waitForColour(user, {100, 200}, patch);
+    select(user, {100, 200});
+    user.find(row(kMove));
+    EXPECT_TRUE(user.isEnabled(row(kMove))) << "its row is known again";
+    user.shoot("reopened");
+  });
+}
+
+TEST_F(LineTypesStory, WhatCannotBeDoneIsTold) {
+  tell([&](User& user) {
+    start(user);
+    select(user, kText);
+    user.click(row("Kiss Cut"));
+    answerMessage(user, "One or more objects could not be converted.");
+    user.waitForNoDialog();
+    select(user, kSquare);
+    user.click(row("Crease"));
+    waitForColour(user, kSquare, kWhite);
+    user.click(row(kMove));
+    answerMessage(user,
+                  "Could not move selection because one or more line type layers are locked or hidden.");
+    user.waitForNoDialog();
+    waitForArt(user, "Crease", 0);
+    select(user, kOblong, "Shift");
+    user.wait("two selected", [&] { return world.document().selectedCount() == 2; });
+    user.click(row("Score"));
+    waitForColour(user, kOblong, kWhite);
+    user.click(row(kMove));
+    waitForArt(user, "Score", 2);
+    select(user, kText);
+    user.click(row("Score"));
+    answerMessage(user, "One or more objects could not be converted.");
+  });
+}
+
+TEST_F(LineTypesStory, CustomTypesAreMadeChangedAndDeleted) {
+  tell([&](User& user) {
+    start(user);
+    openPreferences(user, "Custom");
+    user.shoot("preferences-custom");
+    user.click("New Custom Line Type");
+    user.waitForDialog("New Custom Line Type");
+    user.shoot("new-line-type");
+    typeName(user, std::string(32, 'W'));
+    answerMessage(user, "The name of your new line type can not be longer than 31 characters.");
+    typeName(user, std::string(31, 'W'));
+    user.waitForDialog("Create Line Type Layers Preferences");
+    for (const char* name : {"Laser", "Other"}) {
+      user.click("New Custom Line Type");
+      typeName(user, name);
+      user.waitForDialog("Create Line Type Layers Preferences");
+    }
+    user.click("New Custom Line Type");
+    typeName(user, "Laser");
+    answerMessage(user, "The name of your new line type already exists, please specify another one.");
+    user.waitForDialog("New Custom Line Type");
+    user.press("Escape");
+    user.waitForDialog("Create Line Type Layers Preferences");
+    user.doubleClick("Laser");
+    typeName(user, "Hot Knife");
+    user.waitForDialog("Create Line Type Layers Preferences");
+    user.click("Other");
+    user.click("Delete Custom Line Type");
+    user.shoot("preferences-edited");
+    EXPECT_FALSE(user.isThere("Other"));
+    user.click("OK");
+    user.waitForNoDialog();
+    user.wheel(user.find(row("Score")).center(), -30);
+    EXPECT_TRUE(user.isThere(row("Hot Knife"))) << user.texts();
+    EXPECT_TRUE(user.isThere(row(std::string(31, 'W'))));
+    EXPECT_FALSE(user.isThere(row("Laser")));
+    EXPECT_FALSE(user.isThere(row("Other")));
+
+    openPreferences(user, "Custom");
+    user.click("New Custom Line Type");
+    typeName(user, "Never");
+    user.waitForDialog("Create Line Type Layers Preferences");
+    user.click("Standard");
+    user.click("Kiss Cut");
+    user.shoot("preferences-standard");
+    user.click("Cancel");
+    user.waitForNoDialog();
+    user.wheel(user.find(row("Rout")).center(), -30);
+    EXPECT_FALSE(user.isThere(row("Never")));
+    EXPECT_TRUE(user.isThere(row("Hot Knife")));
+
+    select(user, kSquare);
+    user.click(row("Hot Knife"));
+    waitForColour(user, kSquare, kWhite);
+    user.click(row(kMove));
+    waitForArt(user, "Hot Knife", 1);
+    user.shoot("custom-type");
+  });
+}
+
+TEST_F(LineTypesStory, ThePaletteFollowsThemeAndLanguage) {
+  tell([&](User& user) {
+    start(user);
+    user.click(row("Kiss Cut"));
+    user.chooseMenu({"View", "Dark"});
+    const QRect button = user.find(row("Create Line Type Layer"));
+    user.wait("a dark palette",
+              [&] { return QColor(colourOfPixel(button.topLeft() - QPoint(0, 3))).lightness() < 128; });
+    user.shoot("palette-dark");
+    user.chooseMenu({"View", "Language", "Deutsch"});
+    user.wait("German", [&] { return world.textOf(kPalette) != kPalette; });
+    const std::string palette = user.see([&] { return world.textOf(kPalette); });
+    if (!user.isThere(palette + " / Anschneiden")) user.chooseMenu(productMenu(user, kPalette));
+    user.click(palette + " / Anschneiden");
+    user.shoot("palette-german");
+    user.chooseMenu({"View", "Light"});
+  });
+}
+
+}  // namespace
+}  // namespace host
