@@ -216,6 +216,7 @@ void MainWindow::refresh() {
 
 void MainWindow::refreshDrawings() {
   tabs_->refresh();
+  tools_.showInfo();
   setFocusProxy(tabs_->drawings() > 0 ? &tabs_->viewAt(tabs_->current()) : nullptr);
   refreshTitle();
   files_.refresh();

@@ -82,6 +82,8 @@ void PanelDock::floatingChanged() {
   hasPlace_ = true;
   refresh();
   onChange_();
+  // Without a compositor, what a floating panel lay over still shows it.
+  QTimer::singleShot(0, &window_, [this] { window_.update(); });
 }
 
 // --- size and visibility ---

@@ -40,6 +40,8 @@ class ToolDesk : public ViewEvents {
 
   // To be called when tools may have been added or the theme has changed.
   void refresh();
+  // To be called when the selection may have changed.
+  void showInfo();
 
   void pointerMoved(DrawingView& view, const PointerEvent& event) override;
   void pointerLeft(DrawingView& view) override;
@@ -60,7 +62,6 @@ class ToolDesk : public ViewEvents {
   void setPointer(const PointerEvent& event);
   HostTool* ownTool() const;  // null while a plug-in's tool is selected, or no command is taken
   void showOwnCursor(DrawingView& view, Qt::KeyboardModifiers modifiers);
-  void showInfo();
   void showCursor(const PluginRecord& plugin, std::int32_t id);
   void editOptions(AIToolHandle tool);
   // Has the plug-in of the tool at work, by a message that may be none.
