@@ -1,5 +1,6 @@
 #include "RulerUnits.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -11,36 +12,32 @@ constexpr double kMillimeter = kInch / 25.4;
 
 }  // namespace
 
-RulerUnit rulerUnit(AIRulerUnits units) {
-  switch (units) {
-    case kInchRuler:
-      return {"in", kInch, 3};
-    case kCentimeterRuler:
-      return {"cm", 10 * kMillimeter, 3};
-    case kPicaRuler:
-      return {"pc", 12, 3};
-    case kMillimeterRuler:
-      return {"mm", kMillimeter, 2};
-    case kPixelRuler:
-      return {"px", 1, 2};
-    case kQRuler:
-      return {"Q", kMillimeter / 4, 2};
-    case kFootRuler:
-    case kFootAndInchRuler:
-      return {"ft", 12 * kInch, 4};
-    case kMeterRuler:
-      return {"m", 1000 * kMillimeter, 4};
-    case kYardRuler:
-      return {"yd", 36 * kInch, 4};
-    case kPointRuler:
-    case kUnknownRuler:
-      break;
-  }
-  return {"pt", 1, 2};
+const std::vector<RulerUnit>& rulerUnits() {
+  static const std::vector<RulerUnit> units = {
+      {kPointRuler, "Points", "pt", 1, 2},
+      {kPicaRuler, "Picas", "pc", 12, 3},
+      {kInchRuler, "Inches", "in", kInch, 3},
+      {kFootRuler, "Feet", "ft", 12 * kInch, 4},
+      {kFootAndInchRuler, "Feet and Inches", "ft", 12 * kInch, 4},
+      {kYardRuler, "Yards", "yd", 36 * kInch, 4},
+      {kMillimeterRuler, "Millimeters", "mm", kMillimeter, 2},
+      {kCentimeterRuler, "Centimeters", "cm", 10 * kMillimeter, 3},
+      {kMeterRuler, "Meters", "m", 1000 * kMillimeter, 4},
+      {kQRuler, "Q", "Q", kMillimeter / 4, 2},
+      {kPixelRuler, "Pixels", "px", 1, 2},
+  };
+  return units;
+}
+
+const RulerUnit& rulerUnit(AIRulerUnits wanted) {
+  const std::vector<RulerUnit>& all = rulerUnits();
+  const auto found =
+      std::find_if(all.begin(), all.end(), [&](const RulerUnit& unit) { return unit.units == wanted; });
+  return found == all.end() ? all.front() : *found;
 }
 
 std::string lengthNumber(double points, AIRulerUnits units) {
-  const RulerUnit unit = rulerUnit(units);
+  const RulerUnit& unit = rulerUnit(units);
   std::array<char, 64> buffer{};
   const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), points / unit.points,
                                           std::chars_format::fixed, unit.decimals);

@@ -2,19 +2,24 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "AIDocument.h"
 
 namespace host {
 
 struct RulerUnit {
+  AIRulerUnits units;
+  const char* name;  // for people
   const char* sign;  // such as "mm"
   double points;     // in one unit
   int decimals;      // that a place in a drawing is told with
 };
 
-// Points for units that are unknown.
-RulerUnit rulerUnit(AIRulerUnits units);
+// Those that a user can choose, in the order of a menu.
+const std::vector<RulerUnit>& rulerUnits();
+// Points for units that nobody can choose.
+const RulerUnit& rulerUnit(AIRulerUnits units);
 
 // Such as "12.50 mm". Numbers too long to be shown in full, which no drawing has, are a dash.
 std::string lengthText(double points, AIRulerUnits units);

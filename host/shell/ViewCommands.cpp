@@ -11,7 +11,7 @@
 #include "Host.h"
 #include "MenuBar.h"
 #include "OpenDrawing.h"
-#include "UnitChoices.h"
+#include "RulerUnits.h"
 #include "WindowParts.h"
 #include "WindowSettings.h"
 
@@ -69,7 +69,7 @@ void ViewCommands::makeRulers() {
   parts_.tabs.showRulers(rulers_->isChecked());
   units_ = new QMenu("&Units", &parts_.window);
   auto* group = new QActionGroup(units_);
-  for (const UnitChoice& choice : unitChoices()) {
+  for (const RulerUnit& choice : rulerUnits()) {
     QAction* action = parts_.command(choice.name, {}, [this, units = choice.units] {
       if (OpenDrawing* drawing = parts_.drawing()) parts_.tabs.chooseUnits(*drawing, units);
       parts_.refresh();

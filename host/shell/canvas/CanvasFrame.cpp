@@ -9,7 +9,7 @@
 #include "DrawingView.h"
 #include "OpenDrawing.h"
 #include "Ruler.h"
-#include "UnitChoices.h"
+#include "RulerUnits.h"
 
 namespace host {
 
@@ -48,8 +48,8 @@ void CanvasFrame::showRulers(bool shown) {
 }
 
 void CanvasFrame::refreshRulers() {
-  const UnitChoice& units = unitChoice(view_->drawing().document().rulerUnits());
-  corner_->setText(units.mark);
+  const RulerUnit& units = rulerUnit(view_->drawing().document().rulerUnits());
+  corner_->setText(units.sign);
   corner_->setToolTip(units.name);
   top_->refresh();
   left_->refresh();
@@ -58,7 +58,7 @@ void CanvasFrame::refreshRulers() {
 void CanvasFrame::contextMenuEvent(QContextMenuEvent* event) {
   QMenu menu(this);
   const AIRulerUnits present = view_->drawing().document().rulerUnits();
-  for (const UnitChoice& choice : unitChoices()) {
+  for (const RulerUnit& choice : rulerUnits()) {
     QAction* action = menu.addAction(choice.name, this, [this, &choice] { chooseUnits_(choice.units); });
     action->setCheckable(true);
     action->setChecked(choice.units == present);

@@ -8,7 +8,7 @@
 #include "DrawingView.h"
 #include "Host.h"
 #include "OpenDrawing.h"
-#include "UnitChoices.h"
+#include "RulerUnits.h"
 
 namespace host {
 namespace {
@@ -33,7 +33,7 @@ double lengthOf(TickSize size, double thickness) {
 }  // namespace
 
 RulerSpan rulerSpan(Qt::Orientation orientation, const View& view, const Document& document) {
-  const double perUnit = document.scale() / unitChoice(document.rulerUnits()).points;
+  const double perUnit = document.scale() / rulerUnit(document.rulerUnits()).points;
   const AIRealPoint corner = view.toDocument({0, 0});
   const double perPixel = perUnit / view.pixelsPerUnit();
   if (orientation == Qt::Horizontal) return {corner.x * perUnit, perPixel, static_cast<double>(view.width())};
@@ -49,8 +49,8 @@ QFont rulerFont() {
 int Ruler::thickness() {
   const QFontMetricsF metrics(rulerFont());
   double room = metrics.height() + kRoomOfTicks;
-  for (const UnitChoice& choice : unitChoices()) {
-    room = std::max(room, metrics.horizontalAdvance(choice.mark) + kRoomRoundMark);
+  for (const RulerUnit& choice : rulerUnits()) {
+    room = std::max(room, metrics.horizontalAdvance(choice.sign) + kRoomRoundMark);
   }
   return static_cast<int>(std::ceil(room));
 }

@@ -9,7 +9,7 @@
 #include "CanvasFixture.h"
 #include "Ruler.h"
 #include "RulerTicks.h"
-#include "UnitChoices.h"
+#include "RulerUnits.h"
 
 namespace host {
 namespace {
