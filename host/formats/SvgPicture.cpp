@@ -128,13 +128,14 @@ std::string SvgPicture::drawOver(const PixelBuffer& pixels, const PixelRect& pla
   return status == CAIRO_STATUS_SUCCESS ? std::string() : cairo_status_to_string(status);
 }
 
-// The root element shows the first artboard only. With several, its view is widened to all of them; with
-// one it stays as it is, since sizes in percent refer to it.
+// The root element shows what its view box says. Where the file has pages its view is moved and widened to
+// all of them; else it stays as it is, since sizes in percent refer to it.
 SvgPictureSource pictureSource(const SvgDrawing& drawing, std::string svg,
                                const std::filesystem::path& file) {
   SvgPictureSource source{std::move(svg), file, unionOfArtboards(*drawing.document), std::nullopt};
   AIRealMatrix rootFromDocument{};
-  if (drawing.document->state().artboards.size() < 2) return source;
+  const auto& artboards = drawing.document->state().artboards;
+  if (artboards.size() == 1 && artboards.front().source == drawing.source->root()) return source;
   if (!invert(drawing.documentFromRoot, rootFromDocument)) return source;
   const AIRealPoint from = apply(rootFromDocument, {source.bounds.left, source.bounds.top});
   const AIRealPoint to = apply(rootFromDocument, {source.bounds.right, source.bounds.bottom});

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QImage>
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 
 #include "HostProcess.h"
@@ -55,6 +57,30 @@ TEST(Export, WritesAPictureOfTheWholeDrawing) {
   };
   EXPECT_EQ(number(16), 2539U) << "430 mm at 150 pixels an inch";
   EXPECT_EQ(number(20), 1754U) << "297 mm";
+}
+
+// One page that is a part of what the root element shows: it alone is the picture, in its own size.
+TEST(Export, APageIsShownWhereverItLies) {
+  const ScratchFolder scratch;
+  const std::string drawing = scratch.write(
+      "page.svg",
+      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"300pt\" height=\"200pt\" viewBox=\"0 0 300 200\""
+      " xmlns:sodipodi=\"http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd\""
+      " xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\"><sodipodi:namedview>"
+      "<inkscape:page x=\"50\" y=\"50\" width=\"100\" height=\"100\"/></sodipodi:namedview>"
+      "<g opacity=\"0.5\"><path d=\"M75 75h75v75h-75z\" fill=\"#00f\"/></g></svg>");
+  ASSERT_EQ(runHost({"export", drawing, "-o", scratch.file("page.png")}).code, 0);
+  ASSERT_EQ(runHost({"export", drawing, "-o", scratch.file("page.pdf")}).code, 0);
+  ASSERT_EQ(std::system(("pdftocairo -png -singlefile -r 144 " + scratch.file("page.pdf") + " " +
+                         scratch.file("printed"))
+                            .c_str()),
+            0);
+  for (const char* name : {"page.png", "printed.png"}) {
+    const QImage picture = QImage(QString::fromStdString(scratch.file(name))).scaled(100, 100);
+    EXPECT_EQ(picture.pixelColor(20, 20).name(), "#ffffff") << name;
+    EXPECT_NEAR(picture.pixelColor(30, 30).red(), 128, 1) << name;
+    EXPECT_NEAR(picture.pixelColor(97, 97).red(), 128, 1) << name;
+  }
 }
 
 TEST(Export, AnUntouchedSvgIsWrittenBackByteForByte) {
