@@ -83,7 +83,7 @@ void PanelDock::floatingChanged() {
   refresh();
   onChange_();
   // Without a compositor, what a floating panel lay over still shows it.
-  QTimer::singleShot(0, &window_, [this] { window_.update(); });
+  QTimer::singleShot(0, &window_, [window = &window_] { window->update(); });
 }
 
 // --- size and visibility ---
