@@ -27,44 +27,31 @@ void addSelectable(const Document& document, ArtId top, std::vector<ArtId>& foun
 }
 
 // What makes two strokes the same: kind, components or tint, swatch or paint server, and width.
-using StrokeKey = std::tuple<AIColorTag, std::array<double, 4>, const void*, double>;
+using StrokeKey = std::tuple<AIColorTag, std::array<double, 4>, const void*>;
 
-StrokeKey keyOf(const AIStrokeStyle& stroke, bool withWidth) {
+StrokeKey keyOf(const AIStrokeStyle& stroke) {
   const AIColorUnion& c = stroke.color.c;
-  const double width = withWidth ? stroke.width : 0;
   switch (stroke.color.kind) {
     case kGrayColor:
-      return {kGrayColor, {c.g.gray}, nullptr, width};
+      return {kGrayColor, {c.g.gray}, nullptr};
     case kFourColor:
-      return {kFourColor, {c.f.cyan, c.f.magenta, c.f.yellow, c.f.black}, nullptr, width};
+      return {kFourColor, {c.f.cyan, c.f.magenta, c.f.yellow, c.f.black}, nullptr};
     case kThreeColor:
-      return {kThreeColor, {c.rgb.red, c.rgb.green, c.rgb.blue}, nullptr, width};
+      return {kThreeColor, {c.rgb.red, c.rgb.green, c.rgb.blue}, nullptr};
     case kCustomColor:
-      return {kCustomColor, {c.c.tint}, c.c.color, width};
+      return {kCustomColor, {c.c.tint}, c.c.color};
     case kGradient:
     case kPattern:
-      return {stroke.color.kind, {}, c.s.server, width};
+      return {stroke.color.kind, {}, c.s.server};
     case kNoneColor:
       break;
   }
-  return {kNoneColor, {}, nullptr, width};
+  return {kNoneColor, {}, nullptr};
 }
 
 const AIStrokeStyle* strokeOf(const Document& document, ArtId id) {
   const AIPathStyle* style = document.styleOf(id);
   return style != nullptr && paintsStroke(*style) ? &style->stroke : nullptr;
-}
-
-void selectSame(Document& document, bool withWidth) {
-  std::set<StrokeKey> wanted;
-  for (const ArtId id : document.selection()) {
-    if (const AIStrokeStyle* stroke = strokeOf(document, id)) wanted.insert(keyOf(*stroke, withWidth));
-  }
-  if (wanted.empty()) return;
-  for (const ArtId id : selectableArt(document)) {
-    const AIStrokeStyle* stroke = strokeOf(document, id);
-    if (stroke != nullptr && wanted.count(keyOf(*stroke, withWidth)) != 0) document.setSelected(id, true);
-  }
 }
 
 }  // namespace
@@ -118,11 +105,15 @@ void selectInverse(Document& document) {
 }
 
 void selectSameStroke(Document& document) {
-  selectSame(document, false);
-}
-
-void selectSameStrokeAndWidth(Document& document) {
-  selectSame(document, true);
+  std::set<StrokeKey> wanted;
+  for (const ArtId id : document.selection()) {
+    if (const AIStrokeStyle* stroke = strokeOf(document, id)) wanted.insert(keyOf(*stroke));
+  }
+  if (wanted.empty()) return;
+  for (const ArtId id : selectableArt(document)) {
+    const AIStrokeStyle* stroke = strokeOf(document, id);
+    if (stroke != nullptr && wanted.count(keyOf(*stroke)) != 0) document.setSelected(id, true);
+  }
 }
 
 void deleteSelection(Document& document) {

@@ -21,10 +21,9 @@ void selectOnly(Document& document, const std::vector<ArtId>& art);
 void selectAll(Document& document);  // that can be selected
 void deselect(Document& document);
 void selectInverse(Document& document);  // what can be selected and is not
-// Adds whatever has a stroke of the colour, swatch and tint that a selected stroke has, and then only if it
-// is as wide. Without a selected stroke nothing changes.
+// Adds whatever has a stroke of the colour, swatch and tint that a selected stroke has. Without a selected
+// stroke nothing changes.
 void selectSameStroke(Document& document);
-void selectSameStrokeAndWidth(Document& document);
 // With the groups that hold nothing then. Locked and hidden art stays.
 void deleteSelection(Document& document);
 

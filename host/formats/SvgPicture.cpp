@@ -1,28 +1,13 @@
 #include "SvgPicture.h"
 
-#include <cairo.h>
-#include <librsvg/rsvg.h>
-
 #include <charconv>
 #include <utility>
 
 #include "Geometry.h"
+#include "RsvgLoading.h"
 
 namespace host {
 namespace {
-
-struct ObjectUnref {
-  void operator()(void* object) const { g_object_unref(object); }
-};
-struct SurfaceDestroy {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
-struct ContextDestroy {
-  void operator()(cairo_t* context) const { cairo_destroy(context); }
-};
-using RsvgPointer = std::unique_ptr<RsvgHandle, ObjectUnref>;
-using SurfacePointer = std::unique_ptr<cairo_surface_t, SurfaceDestroy>;
-using ContextPointer = std::unique_ptr<cairo_t, ContextDestroy>;
 
 // A buffer to draw on.
 struct Target {
@@ -34,13 +19,6 @@ struct Target {
   const SurfacePointer surface;
   const ContextPointer context;
 };
-
-std::string takeMessage(GError* error) {
-  std::string text = error != nullptr ? error->message : "it could not be drawn";
-  g_clear_error(&error);
-  while (!text.empty() && (text.back() == '\n' || text.back() == '.')) text.pop_back();
-  return text;
-}
 
 std::string number(double value) {
   char buffer[32];
@@ -72,17 +50,6 @@ std::string showPart(std::string svg, const PixelRect& part, const AIRealRect& b
   return source.splice(std::move(edits));
 }
 
-RsvgPointer loadSvg(const std::string& svg, const std::filesystem::path& file, GError** error) {
-  GInputStream* stream =
-      g_memory_input_stream_new_from_data(svg.data(), static_cast<gssize>(svg.size()), nullptr);
-  GFile* base = file.empty() ? nullptr : g_file_new_for_path(std::filesystem::absolute(file).c_str());
-  RsvgPointer handle(
-      rsvg_handle_new_from_stream_sync(stream, base, RSVG_HANDLE_FLAG_UNLIMITED, nullptr, error));
-  g_object_unref(stream);
-  if (base != nullptr) g_object_unref(base);
-  return handle;
-}
-
 }  // namespace
 
 struct SvgPicture::Handle {
@@ -97,9 +64,9 @@ SvgPicture::~SvgPicture() = default;
 
 std::variant<SvgPicture, std::string> SvgPicture::load(SvgPictureSource source) {
   if (source.shownPart) source.svg = showPart(std::move(source.svg), *source.shownPart, source.bounds);
-  GError* error = nullptr;
-  auto handle = std::make_unique<Handle>(Handle{loadSvg(source.svg, source.file, &error)});
-  if (!handle->rsvg) return takeMessage(error);
+  std::string reason;
+  auto handle = std::make_unique<Handle>(Handle{loadRsvg(source.svg, source.file, reason)});
+  if (!handle->rsvg) return reason;
   return SvgPicture(std::move(handle), source.bounds);
 }
 

@@ -1,11 +1,11 @@
 #include "PdfPictures.h"
 
 #include <cairo-pdf.h>
-#include <librsvg/rsvg.h>
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
 #include <set>
 
+#include "RsvgLoading.h"
 #include "SvgNumber.h"
 #include "SvgPicture.h"
 #include "SvgTagEdit.h"
@@ -15,23 +15,6 @@ namespace host {
 namespace {
 
 constexpr char kIdPrefix[] = "corvane-picture-";
-
-struct ObjectUnref {
-  void operator()(void* object) const { g_object_unref(object); }
-};
-struct SurfaceDestroy {
-  void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
-};
-struct ContextDestroy {
-  void operator()(cairo_t* context) const { cairo_destroy(context); }
-};
-
-std::string takeMessage(GError* error) {
-  std::string text = error != nullptr ? error->message : "it could not be drawn";
-  g_clear_error(&error);
-  while (!text.empty() && (text.back() == '\n' || text.back() == '.')) text.pop_back();
-  return text;
-}
 
 cairo_status_t appendBytes(void* closure, const unsigned char* data, unsigned int length) {
   static_cast<std::string*>(closure)->append(reinterpret_cast<const char*>(data), length);
@@ -94,21 +77,6 @@ class NamedCopy {
   SvgWriting writing_;
 };
 
-using RsvgPointer = std::unique_ptr<RsvgHandle, ObjectUnref>;
-
-RsvgPointer load(const std::string& svg, const std::filesystem::path& file, std::string& reason) {
-  GError* error = nullptr;
-  const std::unique_ptr<GInputStream, ObjectUnref> stream(
-      g_memory_input_stream_new_from_data(svg.data(), static_cast<gssize>(svg.size()), nullptr));
-  const std::unique_ptr<GFile, ObjectUnref> base(
-      file.empty() ? nullptr : g_file_new_for_path(std::filesystem::absolute(file).c_str()));
-  const auto flags =
-      static_cast<RsvgHandleFlags>(RSVG_HANDLE_FLAG_UNLIMITED | RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA);
-  RsvgPointer handle(rsvg_handle_new_from_stream_sync(stream.get(), base.get(), flags, nullptr, &error));
-  if (!handle) reason = takeMessage(error);
-  return handle;
-}
-
 // Where `bounds` lies on the page of an artboard: points, y down.
 RsvgRectangle viewportOn(const AIRealRect& page, const AIRealRect& bounds, double scale) {
   return {(bounds.left - page.left) * scale, (page.top - bounds.top) * scale,
@@ -129,16 +97,16 @@ std::string PdfPictures::drawInto(QPDF& pdf, const std::filesystem::path& file,
   for (const Request& request : requests_) elements.insert(request.elements.begin(), request.elements.end());
   const SvgPictureSource shown = pictureSource(drawing_, {}, file);
   std::string reason;
-  const RsvgPointer handle = load(NamedCopy(drawing_).make(elements, shown), file, reason);
+  const RsvgPointer handle =
+      loadRsvg(NamedCopy(drawing_).make(elements, shown), file, reason, RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA);
   if (!handle) return reason;
 
   std::string bytes;
   const auto& artboards = drawing_.document->state().artboards;
   const double scale = drawing_.document->scale();
   {
-    const std::unique_ptr<cairo_surface_t, SurfaceDestroy> surface(
-        cairo_pdf_surface_create_for_stream(appendBytes, &bytes, 1, 1));
-    const std::unique_ptr<cairo_t, ContextDestroy> context(cairo_create(surface.get()));
+    const SurfacePointer surface(cairo_pdf_surface_create_for_stream(appendBytes, &bytes, 1, 1));
+    const ContextPointer context(cairo_create(surface.get()));
     for (const Request& request : requests_) {
       const AIRealRect& page = artboards[request.artboard].position;
       cairo_pdf_surface_set_size(surface.get(), (page.right - page.left) * scale,
