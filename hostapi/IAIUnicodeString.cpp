@@ -24,8 +24,13 @@ UnicodeString::UnicodeString(const UnicodeString& other) {
   ThrowOnError(Suite().New(bytes.data(), bytes.size(), kAIUTF8CharacterEncoding, &string_));
 }
 
-UnicodeString& UnicodeString::operator=(UnicodeString other) noexcept {
-  std::swap(string_, other.string_);
+UnicodeString& UnicodeString::operator=(const UnicodeString& other) {
+  return *this = UnicodeString(other);
+}
+
+UnicodeString& UnicodeString::operator=(UnicodeString&& other) noexcept {
+  UnicodeString taken(std::move(other));
+  std::swap(string_, taken.string_);
   return *this;
 }
 

@@ -18,7 +18,9 @@ class UnicodeString {
   explicit UnicodeString(std::string_view bytes, AICharacterEncoding encoding = kAIUTF8CharacterEncoding);
   UnicodeString(const UnicodeString& other);
   UnicodeString(UnicodeString&& other) noexcept : string_(other.string_) { other.string_ = nullptr; }
-  UnicodeString& operator=(UnicodeString other) noexcept;
+  // Two, for a class with such a member would count as assigned without throwing if one took a value.
+  UnicodeString& operator=(const UnicodeString& other);
+  UnicodeString& operator=(UnicodeString&& other) noexcept;
   ~UnicodeString();
 
   std::size_t length() const;  // UTF-16 code units

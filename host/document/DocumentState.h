@@ -1,6 +1,7 @@
 // The records of a document beside its art.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ struct Layer {
   SourceId source = 0;
   LayerId copyOf = 0;  // what it was copied from, or that one was; 0: no copy
   std::string title;   // UTF-8; titles need not differ
+  // The processing step (ISO 19593-1) that was chosen for it, such as "Structural/Cutting"; empty: none was
+  // wanted; nullopt: none was chosen yet.
+  std::optional<std::string> step;
 };
 
 struct CustomColor {

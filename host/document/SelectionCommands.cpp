@@ -58,10 +58,11 @@ const AIStrokeStyle* strokeOf(const Document& document, ArtId id) {
 
 std::vector<ArtId> selectableArt(const Document& document, ArtId top) {
   std::vector<ArtId> found;
-  if (!document.isEditable(top)) return found;
-  const Art* parent = document.art(document.art(top)->parent);
+  const Art* art = document.art(top);
+  if (art == nullptr || !document.isEditable(top)) return found;
+  const Art* parent = document.art(art->parent);
   const bool isPart = parent != nullptr && parent->type == kCompoundPathArt;
-  addSelectable(document, isPart ? document.art(top)->parent : top, found);
+  addSelectable(document, isPart ? art->parent : top, found);
   return found;
 }
 

@@ -7,6 +7,7 @@
 #include "Geometry.h"
 #include "SvgElements.h"
 #include "SvgHostText.h"
+#include "SvgQuoted.h"
 #include "SvgShapes.h"
 
 namespace host {
@@ -72,12 +73,21 @@ void SvgArtReader::readLayer(const SvgLayerPlan& plan) {
   const SvgContext context = reading_.contextInside(plan.source, outer);
   layer.visible = context.style.displayed && passesConditions(source_, plan.source);
   layer.editable = !isTrue(source_.attribute(plan.source, XmlNamespace::Sodipodi, "insensitive"));
+  layer.step = stepOfLayer(plan.source);
   reading_.remarkEffects(plan.source, context.style);
   readChildren(plan.source, context, root);
   Art art;
   art.type = kGroupArt;
   art.clip = clipOfGroup(plan.source, context, root);
   if (art.clip != nullptr) document_.initialiseArt(root, art);
+}
+
+std::optional<std::string> SvgArtReader::stepOfLayer(NodeIndex element) {
+  const auto text = source_.attribute(element, XmlNamespace::Host, kHostStep);
+  if (!text) return std::nullopt;
+  std::optional<std::string> step = stepFrom(*text);
+  if (!step) reading_.remarks.add(element, "its processing step " + quoted(*text) + " is not known");
+  return step;
 }
 
 void SvgArtReader::readChildren(NodeIndex element, const SvgContext& context, ArtId parent) {
@@ -155,14 +165,21 @@ void SvgArtReader::readShape(NodeIndex element, const SvgDeclaredValues& declare
   addPaths(element, std::move(paths), std::move(art), parent);
 }
 
+// A path without a segment yet is written so.
+bool SvgArtReader::isEmptyPath(NodeIndex element) const {
+  return source_.is(element, "path") && source_.attribute(element, "d") == "";
+}
+
 void SvgArtReader::addPaths(NodeIndex element, std::vector<PathGeometry> paths, Art art, ArtId parent) {
-  if (paths.empty()) {
+  const bool compound = source_.attribute(element, XmlNamespace::Host, kHostKind) == "compound";
+  if (paths.empty() && isEmptyPath(element)) {
+    if (!compound) paths.emplace_back();
+  } else if (paths.empty()) {
     art.type = kForeignArt;
     art.style = nullptr;
     addArt(art, parent);
     return;
   }
-  const bool compound = source_.attribute(element, XmlNamespace::Host, kHostKind) == "compound";
   if (paths.size() == 1 && !compound) {
     art.path = std::make_shared<const PathGeometry>(std::move(paths.front()));
     addArt(art, parent);

@@ -1,6 +1,9 @@
 // The walk through a file's elements that makes the document's art.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "SvgBodies.h"
 #include "SvgClips.h"
 #include "SvgLayerPlan.h"
@@ -19,6 +22,7 @@ class SvgArtReader {
 
  private:
   void readLayer(const SvgLayerPlan& plan);
+  std::optional<std::string> stepOfLayer(NodeIndex element);
   void readChildren(NodeIndex element, const SvgContext& context, ArtId parent);
   // `chosen` is false for a child of a <switch> that is not the one to show.
   void readElement(NodeIndex element, const SvgContext& outer, ArtId parent, bool chosen = true);
@@ -31,6 +35,7 @@ class SvgArtReader {
                  ArtId parent);
   void readBody(NodeIndex element, SvgElementKind kind, const SvgDeclaredValues& declared,
                 const SvgContext& context, Art art, ArtId parent);
+  bool isEmptyPath(NodeIndex element) const;
   void addPaths(NodeIndex element, std::vector<PathGeometry> paths, Art art, ArtId parent);
   ArtId addArt(const Art& art, ArtId parent);
   Art artOf(NodeIndex element, AIArtType type, const SvgContext& context, bool chosen);

@@ -25,7 +25,7 @@ ClipPointer SvgClips::clipOf(NodeIndex element, const SvgContext& context, const
   if (context.style.clipPath.empty()) return nullptr;
   const NodeIndex clipPath = clipPathOf(element, context.style.clipPath);
   if (clipPath == 0) return nullptr;
-  const ClipPointer clip = reading_.budget.isSpent() ? nullptr : read(clipPath, context, userBox);
+  ClipPointer clip = reading_.budget.isSpent() ? nullptr : read(clipPath, context, userBox);
   if (!reading_.budget.isSpent()) return clip;
   reading_.remarks.add(element,
                        "its clip-path does not count, since the file refers to more than can be shown");
@@ -56,7 +56,7 @@ ClipPointer SvgClips::read(NodeIndex clipPath, const SvgContext& context, const 
     return nullptr;
   }
   active_.push_back(clipPath);
-  const ClipPointer clip = readContent(clipPath, context, userBox);
+  ClipPointer clip = readContent(clipPath, context, userBox);
   active_.pop_back();
   if (!byBox) last_[clipPath] = {context.documentFromUser, clip};
   return clip;

@@ -1,5 +1,6 @@
 #include "SvgFont.h"
 
+#include <cmath>
 #include <cstddef>
 
 #include "SvgLength.h"
@@ -35,9 +36,7 @@ constexpr Keyword<double> kBaselines[] = {
 constexpr Keyword<int> kWeights[] = {{"normal", 400}, {"bold", 700}};
 constexpr Keyword<bool> kStyles[] = {{"normal", false}, {"italic", true}, {"oblique", true}};
 
-}  // namespace
-
-std::optional<double> parseFontSize(std::string_view text, double parentSize) {
+std::optional<double> sizeIn(std::string_view text, double parentSize) {
   if (const auto size = valueOf(kSizes, text)) return size;
   if (equalsIgnoringCase(text, "larger")) return parentSize * kRelativeStep;
   if (equalsIgnoringCase(text, "smaller")) return parentSize / kRelativeStep;
@@ -45,6 +44,13 @@ std::optional<double> parseFontSize(std::string_view text, double parentSize) {
   if (!length || length->value < 0) return std::nullopt;
   if (length->unit == SvgUnit::Percent) return parentSize * length->value / 100;
   return userUnits(*length, SvgAxis::Diagonal, {0, 0, parentSize});
+}
+
+}  // namespace
+
+std::optional<double> parseFontSize(std::string_view text, double parentSize) {
+  const std::optional<double> size = sizeIn(text, parentSize);
+  return size && std::isfinite(*size) ? size : std::nullopt;
 }
 
 std::optional<int> parseFontWeight(std::string_view text, int parentWeight) {

@@ -4,11 +4,14 @@
 #include <initializer_list>
 
 #include "Handles.h"
+#include "ProcessingSteps.h"
 #include "SvgNumber.h"
 #include "SvgScanner.h"
 
 namespace host {
 namespace {
+
+constexpr char kNoStep[] = "none";
 
 std::string call(std::string_view function, std::string text, std::initializer_list<double> numbers) {
   for (const double number : numbers) {
@@ -57,6 +60,17 @@ std::string paintText(const AIColor& color, const Document& document) {
       break;
   }
   return "none";
+}
+
+std::string stepText(const std::string& step) {
+  return step.empty() ? kNoStep : step;
+}
+
+std::optional<std::string> stepFrom(std::string_view text) {
+  if (text == kNoStep) return std::string();
+  std::string step(text);
+  if (!isProcessingStep(step)) return std::nullopt;
+  return step;
 }
 
 std::string definitionText(const AICustomColor& definition) {

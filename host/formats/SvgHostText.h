@@ -1,6 +1,6 @@
 // How this host notes in an SVG file what SVG has no words for: paints that are not plain RGB, overprint,
-// swatches, and which layers it added itself. All of it lies in kHostNamespace, beside plain SVG that
-// shows the same thing to every other program.
+// swatches, processing steps, and which layers it added itself. All of it lies in kHostNamespace, beside
+// plain SVG that shows the same thing to every other program.
 //
 // Attributes of an element:
 //   ch:fill="cmyk(0 0 0 1)"        the paint that `fill` shows an RGB fallback of; likewise ch:stroke
@@ -8,6 +8,7 @@
 //   ch:kind="compound"             a compound path although it has but one subpath, or none
 //   ch:added="layer"               a layer that this host added: leave it out of account when telling
 //                                  whether a file has layers of its own
+//   ch:step="Structural/Cutting"   the processing step that was chosen for a layer, or "none"
 //
 // A paint is gray(K), with 0 white and 1 black, cmyk(C M Y K), rgb(R G B), custom('NAME' TINT), with 0
 // full strength and 1 no ink, gradient('REFERENCE' R G B) or pattern('REFERENCE' R G B), with the RGB
@@ -40,6 +41,7 @@ constexpr char kHostFillOverprint[] = "fill-overprint";
 constexpr char kHostStrokeOverprint[] = "stroke-overprint";
 constexpr char kHostKind[] = "kind";
 constexpr char kHostAdded[] = "added";
+constexpr char kHostStep[] = "step";
 
 // The paint in words; empty for a custom colour or a server that the document does not have.
 std::string paintText(const AIColor& color, const Document& document);
@@ -47,6 +49,10 @@ std::string paintText(const AIColor& color, const Document& document);
 // that the document does not have yet is added. When this stands beside a `fill` or `stroke`, it counts
 // only while that still shows fallbackRgb() of it: other programs change one and leave the other.
 std::optional<AIColor> paintFrom(std::string_view text, Document& document);
+
+// A layer's step, see Layer::step. Nullopt for a text that names none and is not "none" either.
+std::string stepText(const std::string& step);
+std::optional<std::string> stepFrom(std::string_view text);
 
 // The definition of a custom colour: cmyk(C M Y K), rgb(R G B) or lab(L A B). Flags are not part of it.
 std::string definitionText(const AICustomColor& definition);

@@ -42,7 +42,8 @@ bool SvgLayerWriter::isLoose(LayerId id) const {
 bool SvgLayerWriter::hasNewState(LayerId id) const {
   const Layer& before = *writing_.changes.originalLayer(id);
   const Layer& now = *writing_.document.layer(id);
-  return now.title != before.title || now.visible != before.visible || now.editable != before.editable;
+  return now.title != before.title || now.visible != before.visible || now.editable != before.editable ||
+         now.step != before.step;
 }
 
 // Does the layer say in the file that it is one?
@@ -168,6 +169,7 @@ SvgNewContent SvgLayerWriter::newLayer(LayerId id, SvgPlace place) {
   add(attributes, XmlNamespace::Inkscape, "groupmode", "layer");
   if (!layer.title.empty()) add(attributes, XmlNamespace::Inkscape, "label", layer.title);
   if (!isLoose(id)) add(attributes, XmlNamespace::Host, kHostAdded, "layer");
+  if (layer.step) add(attributes, XmlNamespace::Host, kHostStep, stepText(*layer.step));
   if (!layer.visible) appendAttribute(attributes, "style", "display:none");
   if (!layer.editable) add(attributes, XmlNamespace::Sodipodi, "insensitive", "1");
   SvgNewContent result;
@@ -205,6 +207,10 @@ void SvgLayerWriter::editState(LayerId id, SvgTagEdit& tag) const {
     tag.removeProperty("display");
     if (!now.visible) tag.setInStyle("display", "none");
     if (now.visible && writing_.declared.sheetSets("display")) tag.setInStyle("display", "inline");
+  }
+  if (now.step != before.step) {
+    if (now.step) tag.set(XmlNamespace::Host, kHostStep, stepText(*now.step));
+    if (!now.step) tag.remove(XmlNamespace::Host, kHostStep);
   }
   if (now.editable == before.editable) return;
   if (now.editable) {

@@ -11,6 +11,9 @@
 namespace host {
 namespace {
 
+// In document units; what is longer can't be told from it.
+constexpr double kLongestLength = 1e9;
+
 AIColor noColour() {
   AIColor color{};
   color.kind = kNoneColor;
@@ -95,10 +98,13 @@ void SvgPaints::setStroke(const SvgStyle& style, const AIRealMatrix& documentFro
   const double scale =
       style.nonScalingStroke ? unitsPerPixel_ : std::sqrt(std::abs(determinant(documentFromUser)));
   const std::size_t dashes = std::min(style.dashCount, style.dashes.size());
-  stroke.width = withoutNoise(style.strokeWidth * scale, document_.scale());
+  const auto inDocument = [scale](double length) {
+    return std::clamp(length * scale, -kLongestLength, kLongestLength);
+  };
+  stroke.width = withoutNoise(inDocument(style.strokeWidth), document_.scale());
   stroke.dash.length = static_cast<std::int16_t>(dashes);
-  stroke.dash.offset = style.dashOffset * scale;
-  for (std::size_t i = 0; i < dashes; ++i) stroke.dash.array[i] = style.dashes[i] * scale;
+  stroke.dash.offset = inDocument(style.dashOffset);
+  for (std::size_t i = 0; i < dashes; ++i) stroke.dash.array[i] = inDocument(style.dashes[i]);
   stroke.cap = style.cap;
   stroke.join = style.join;
   stroke.miterLimit = style.miterLimit < 1 ? 4 : style.miterLimit;

@@ -60,8 +60,9 @@ void appendPathData(std::string& data, const PathGeometry& path, const AIRealMat
   text.command('M');
   text.point(first.p);
   for (std::size_t i = 1; i < path.segments.size(); ++i) text.side(path.segments[i - 1], path.segments[i]);
-  if (!path.closed) return;
-  if (!closesByItself(last, first)) text.side(last, first);
+  const bool isLone = path.segments.size() == 1;  // a move alone would not be read as a path
+  if (!path.closed && !isLone) return;
+  if (path.closed && !closesByItself(last, first)) text.side(last, first);
   text.command('Z');
 }
 

@@ -37,8 +37,10 @@ void setRootAttribute(const SvgSource& source, std::vector<SvgEdit>& edits, std:
   edits.push_back({at, at, " " + std::string(name) + "=\"" + value + "\""});
 }
 
-std::string showPart(std::string svg, const PixelRect& part, const AIRealRect& bounds) {
+// Empty, or a clause on why the bytes cannot be read.
+std::string showPart(std::string& svg, const PixelRect& part, const AIRealRect& bounds) {
   auto parsed = SvgSource::parse(std::move(svg));
+  if (const SvgError* error = std::get_if<SvgError>(&parsed)) return error->reason;
   const auto& source = *std::get<std::unique_ptr<SvgSource>>(parsed);
   std::vector<SvgEdit> edits;
   setRootAttribute(
@@ -47,7 +49,8 @@ std::string showPart(std::string svg, const PixelRect& part, const AIRealRect& b
   setRootAttribute(source, edits, "width", number(bounds.right - bounds.left) + "pt");
   setRootAttribute(source, edits, "height", number(bounds.top - bounds.bottom) + "pt");
   setRootAttribute(source, edits, "preserveAspectRatio", "none");
-  return source.splice(std::move(edits));
+  svg = source.splice(std::move(edits));
+  return {};
 }
 
 }  // namespace
@@ -63,8 +66,9 @@ SvgPicture& SvgPicture::operator=(SvgPicture&&) noexcept = default;
 SvgPicture::~SvgPicture() = default;
 
 std::variant<SvgPicture, std::string> SvgPicture::load(SvgPictureSource source) {
-  if (source.shownPart) source.svg = showPart(std::move(source.svg), *source.shownPart, source.bounds);
   std::string reason;
+  if (source.shownPart) reason = showPart(source.svg, *source.shownPart, source.bounds);
+  if (!reason.empty()) return reason;
   auto handle = std::make_unique<Handle>(Handle{loadRsvg(source.svg, source.file, reason)});
   if (!handle->rsvg) return reason;
   return SvgPicture(std::move(handle), source.bounds);

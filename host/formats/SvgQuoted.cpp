@@ -12,7 +12,7 @@ std::string quoted(std::string_view text) {
   std::size_t end = text.size();
   if (end > kLongestQuote) {
     end = kLongestQuote;
-    while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) --end;
   }
   for (const char c : text.substr(0, end)) result += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
   if (end < text.size()) result += "...";

@@ -62,7 +62,7 @@ bool SvgShapeReader::readPath(SvgOutline& outline) {
   const auto data = source_.attribute(element_, "d");
   if (!data) return nothing("it has no path data");
   if (const auto fault = readPathData(*data, outline)) remarkFault("d", "its path data", *fault);
-  return !outline.empty() || nothing("its path data draw nothing");
+  return data->empty() || !outline.empty() || nothing("its path data draw nothing");
 }
 
 void SvgShapeReader::remarkFault(std::string_view name, std::string_view what, const SvgFault& fault) {

@@ -160,7 +160,7 @@ bool SvgStyleComputer::setDashes(std::string_view value) {
     for (; !scanner.atEnd(); scanner.skipCommaBlanks(), ++count) {
       const auto length = readLength(scanner);
       const double dash = length ? inUserUnits(*length) : -1;
-      if (!(dash >= 0)) return false;
+      if (!(dash >= 0) || !std::isfinite(dash)) return false;
       if (count < dashes.size()) dashes[count] = dash;
       sum += dash;
     }
@@ -213,7 +213,9 @@ bool SvgStyleComputer::setText(SvgProperty property, std::string_view value) {
 bool SvgStyleComputer::setLength(double& target, std::string_view value, double least) {
   const auto length = parseLength(value);
   if (!length || length->value < least) return false;
-  target = inUserUnits(*length);
+  const double units = inUserUnits(*length);
+  if (!std::isfinite(units)) return false;
+  target = units;
   return true;
 }
 

@@ -11,6 +11,7 @@ struct Declaration {
   std::size_t valueBegin;
   std::size_t valueEnd;  // before blanks, and before "!important"
   std::size_t end;       // behind the semicolon, if there is one
+  bool hasColon;
 };
 
 // Behind a string, a comment or an escape that begins at `at`, or behind the one character there.
@@ -60,6 +61,7 @@ std::optional<Declaration> declarationFrom(std::string_view text, std::size_t at
   const std::size_t semicolon = findOutside(text, ';', found.begin);
   const std::size_t colon = std::min(text.find(':', found.begin), semicolon);
   found.end = std::min(semicolon + 1, text.size());
+  found.hasColon = colon < semicolon;
   found.nameEnd = trimEnd(text, found.begin, colon);
   found.valueBegin = std::min(colon + 1, semicolon);
   while (found.valueBegin < semicolon && isSvgBlank(text[found.valueBegin])) ++found.valueBegin;
@@ -68,8 +70,10 @@ std::optional<Declaration> declarationFrom(std::string_view text, std::size_t at
   return found;
 }
 
+// What lacks its colon declares nothing.
 bool names(std::string_view text, const Declaration& declaration, std::string_view name) {
-  return equalsIgnoringCase(text.substr(declaration.begin, declaration.nameEnd - declaration.begin), name);
+  return declaration.hasColon &&
+         equalsIgnoringCase(text.substr(declaration.begin, declaration.nameEnd - declaration.begin), name);
 }
 
 std::optional<Declaration> lastOf(std::string_view style, std::string_view name) {
@@ -100,7 +104,9 @@ std::string withStyleProperty(std::string_view style, std::string_view name, std
   if (!text.empty() && !ended) text += ';';
   text.append(name).append(":").append(value);
   if (ended) text += ';';
-  return text;
+  if (styleProperty(text, name) == value) return text;
+  // Something that is never closed would swallow it.
+  return std::string(name).append(":").append(value).append(";").append(style);
 }
 
 std::string withoutStyleProperty(std::string_view style, std::string_view name) {

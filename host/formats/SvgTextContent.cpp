@@ -23,7 +23,7 @@ class TextContentReader {
     const NodeIndex element = span.element;
     const auto index = static_cast<std::uint32_t>(content_.spans.size());
     const std::size_t first = content_.characters.size();
-    content_.spans.push_back(std::move(span));
+    content_.spans.push_back(span);
     for (NodeIndex child = source_.node(element).firstChild; child != 0;
          child = source_.node(child).nextSibling) {
       append(source_.textBefore(element, child), index);

@@ -14,18 +14,6 @@ std::string blockText(const SvgWriting& writing, const std::string& elementName,
   return swatchesText(writing.document, prefix, lineBreak, lineBreak.empty() ? std::string() : indent);
 }
 
-void replaceSwatches(SvgWriting& writing, NodeIndex block) {
-  const SvgNode& node = writing.source.node(block);
-  const std::string lineBreak = writing.layout.breakBefore(node.begin);
-  const std::string name = writing.prefixes.name(block, XmlNamespace::Host, "swatches", kRootScope);
-  const std::string text = blockText(writing, name, lineBreak, writing.layout.indent(node.parent));
-  if (text.empty()) {
-    writing.plan.cut(block);
-  } else {
-    writing.plan.replace(node.begin, node.end, text);
-  }
-}
-
 // The block with the declaration of its prefix, if the root element doesn't declare it.
 SvgNewContent newBlock(SvgWriting& writing, NodeIndex inside, const std::string& lineBreak,
                        const std::string& indent) {
@@ -38,6 +26,15 @@ SvgNewContent newBlock(SvgWriting& writing, NodeIndex inside, const std::string&
   content.addDeclarations(scope);
   content.add(text.substr(nameEnd));
   return content;
+}
+
+// Anew as a whole: a declaration of its prefix that the old one has goes with it.
+void replaceSwatches(SvgWriting& writing, NodeIndex block) {
+  if (swatchesText(writing.document).empty()) return writing.plan.cut(block);
+  const SvgNode& node = writing.source.node(block);
+  const std::string lineBreak = writing.layout.breakBefore(node.begin);
+  writing.plan.replace(node.begin, node.end,
+                       newBlock(writing, node.parent, lineBreak, writing.layout.indent(node.parent)));
 }
 
 NodeIndex metadataOf(const SvgSource& source) {

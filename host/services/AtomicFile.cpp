@@ -8,41 +8,12 @@
 #include <cstring>
 #include <filesystem>
 #include <system_error>
-#include <utility>
+
+#include "Descriptor.h"
+#include "TemporaryFile.h"
 
 namespace host {
 namespace {
-
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() { close(); }
-
-  int number() const { return number_; }
-  bool good() const { return number_ >= 0; }
-  bool close() { return number_ < 0 || ::close(std::exchange(number_, -1)) == 0; }
-
- private:
-  int number_;
-};
-
-// Removes a file unless it was kept.
-class Temporary {
- public:
-  explicit Temporary(std::string file) : file_(std::move(file)) {}
-  Temporary(const Temporary&) = delete;
-  Temporary& operator=(const Temporary&) = delete;
-  ~Temporary() {
-    if (!file_.empty()) ::unlink(file_.c_str());
-  }
-
-  void keep() { file_.clear(); }
-
- private:
-  std::string file_;
-};
 
 std::string reasonOf(int error) {
   switch (error) {
@@ -112,6 +83,16 @@ std::string writeInPlace(const std::string& file, std::string_view bytes) {
   return {};
 }
 
+// 0, or the error.
+int putInPlace(const std::filesystem::path& target, TemporaryFile::Kind kind, std::string_view bytes,
+               mode_t mode) {
+  TemporaryFile temporary(target, kind);
+  const bool isPut = temporary.good() && writeAll(temporary.number(), bytes) &&
+                     ::fchmod(temporary.number(), mode) == 0 && bringToDisk(temporary.number()) &&
+                     temporary.putInPlace();
+  return isPut ? 0 : errno;
+}
+
 // The folder's entry must reach the disk as well; a file system that can't do that does no harm.
 void syncFolder(const std::filesystem::path& folder) {
   const Descriptor descriptor(
@@ -157,16 +138,10 @@ std::string replaceFile(const std::string& file, std::string_view bytes) {
   // Where the old file may not be written, putting another in its place would be a trick on its owner.
   if (exists && ::access(target.c_str(), W_OK) != 0) return reasonOf(errno);
 
-  std::string name = target.string() + ".XXXXXX";
-  Descriptor descriptor(::mkostemp(name.data(), O_CLOEXEC));
-  if (!descriptor.good()) return errno == ENOENT ? "its folder is not there" : reasonOf(errno);
-  Temporary temporary(name);
-  if (!writeAll(descriptor.number(), bytes)) return reasonOf(errno);
-  if (::fchmod(descriptor.number(), exists ? status.st_mode & 07777 : modeOfNewFiles()) != 0)
-    return reasonOf(errno);
-  if (!bringToDisk(descriptor.number()) || !descriptor.close()) return reasonOf(errno);
-  if (::rename(name.c_str(), target.c_str()) != 0) return reasonOf(errno);
-  temporary.keep();
+  const mode_t mode = exists ? status.st_mode & 07777 : modeOfNewFiles();
+  int error = putInPlace(target, TemporaryFile::Kind::Nameless, bytes, mode);
+  if (error != 0) error = putInPlace(target, TemporaryFile::Kind::Named, bytes, mode);
+  if (error != 0) return error == ENOENT ? "its folder is not there" : reasonOf(error);
   syncFolder(target.parent_path());
   return {};
 }

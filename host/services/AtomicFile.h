@@ -14,10 +14,11 @@ namespace host {
 std::optional<std::string> readFile(const std::string& file, std::string* reason = nullptr,
                                     std::size_t limit = std::numeric_limits<std::size_t>::max());
 
-// Writes a temporary file beside the target, brings it to the disk and puts it in the target's place, so
-// that the target is at any moment either the old file or the new one. A file that was there keeps its
-// permissions; a symbolic link stays one, and what it leads to is replaced. A device or a pipe is written
-// to as it is. Empty, or a clause on why not: the old file is then whole and no temporary file is left.
+// Writes a temporary file, brings it to the disk and puts it in the target's place, so that the target is at
+// any moment either the old file or the new one. Where the file system can write files without a name, not
+// even a killed program leaves anything else behind. A file that was there keeps its permissions; a symbolic
+// link stays one, and what it leads to is replaced. A device or a pipe is written to as it is. Empty, or a
+// clause on why not: the old file is then whole and no temporary file is left.
 std::string replaceFile(const std::string& file, std::string_view bytes);
 
 }  // namespace host

@@ -56,7 +56,7 @@ std::optional<fs::path> firstFolder(const std::vector<fs::path>& folders, Wanted
 std::optional<fs::path> folderForLanguage(const std::vector<fs::path>& folders, const fs::path& english,
                                           std::string_view language) {
   for (std::string_view wanted = language; !wanted.empty();) {
-    const auto exact = firstFolder(folders, [&](std::string_view tag) { return tag == wanted; });
+    auto exact = firstFolder(folders, [&](std::string_view tag) { return tag == wanted; });
     if (exact) return exact;
     const std::size_t cut = wanted.rfind('-');
     wanted = cut == std::string_view::npos ? std::string_view() : wanted.substr(0, cut);
@@ -83,7 +83,7 @@ std::optional<fs::path> localisationFolder(const fs::path& bundle, std::string_v
 
 fs::path chosenFolder(const fs::path& bundle, const std::vector<std::string>& languages) {
   const std::vector<fs::path> folders = localisations(bundle);
-  const fs::path english = resourceFolder(bundle);
+  fs::path english = resourceFolder(bundle);
   for (const std::string& language : languages) {
     if (auto folder = folderForLanguage(folders, english, language)) return *std::move(folder);
   }

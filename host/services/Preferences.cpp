@@ -18,6 +18,9 @@ namespace {
 using Json = nlohmann::json;
 using Key = std::pair<std::string, std::string>;
 
+// Values have two; what another program has put there is kept, but storing it takes stack for each level.
+constexpr int kMostLevels = 100;
+
 // An overlay that takes the kind it is asked for.
 struct UntypedText {
   std::string text;
@@ -150,7 +153,12 @@ struct Preferences::Store {
   // The reason why the bytes are no preferences, with its place; empty if they are.
   std::string read(const std::string& bytes) {
     try {
-      Json read = Json::parse(bytes);
+      bool isTooDeep = false;
+      Json read = Json::parse(bytes, [&isTooDeep](int depth, Json::parse_event_t, const Json&) {
+        isTooDeep = isTooDeep || depth > kMostLevels;
+        return !isTooDeep;
+      });
+      if (isTooDeep) return "nested too deeply";
       if (!isObjectOfObjects(read)) return "not an object of objects";
       values = std::move(read);
       return {};

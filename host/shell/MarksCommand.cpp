@@ -6,15 +6,15 @@
 #include <utility>
 
 #include "AlertLine.h"
-#include "Bounds.h"
 #include "Commands.h"
 #include "Complain.h"
 #include "DialogAnswerer.h"
 #include "DrawingFile.h"
 #include "DrawingReport.h"
 #include "HiddenPanels.h"
+#include "JobMarks.h"
+#include "MarksProduct.h"
 #include "OffscreenApplication.h"
-#include "ProductCommands.h"
 #include "Session.h"
 #include "Startup.h"
 
@@ -32,17 +32,8 @@ struct Outcome {
 
 std::vector<AIRealPoint> marksIn(const Document& document) {
   std::vector<AIRealPoint> centres;
-  for (const LayerId id : document.state().layers) {
-    const Layer& layer = *document.layer(id);
-    if (layer.title != kMarksProduct.layerTitle) continue;
-    // What was drawn first lies at the bottom.
-    for (ArtId art = document.art(layer.root)->lastChild; art != 0; art = document.art(art)->above) {
-      if (document.art(art)->name != kMarksProduct.artName) continue;
-      const AIRealRect box = artBounds(document, art, nullptr, kNoStrokeBounds);
-      const double scale = document.scale();
-      centres.push_back({(box.left + box.right) / 2 * scale, (box.top + box.bottom) / 2 * scale});
-    }
-    break;
+  for (const JobMark& mark : marksOf(document)) {
+    centres.push_back({mark.centre.x * document.scale(), mark.centre.y * document.scale()});
   }
   return centres;
 }

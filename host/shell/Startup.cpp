@@ -6,7 +6,7 @@
 
 #include "Commands.h"
 #include "Complain.h"
-#include "ProductCommands.h"
+#include "MarksProduct.h"
 #include "Session.h"
 
 namespace host {

@@ -80,31 +80,6 @@ TEST_F(SelectionTest, HoldsOnlyWhatIsAWholeOfItsOwn) {
   EXPECT_FALSE(document.undo()) << "selecting is no step";
 }
 
-TEST_F(SelectionTest, UndoAndRedoBringItBack) {
-  document.setSelected(path, true);
-  step([&] {
-    document.setName(first, "new");
-    document.setSelected(group, true);
-  });
-  document.deselectAll();
-  document.setSelected(compound, true);
-  step([&] { document.deleteArt(compound); });
-  EXPECT_THAT(document.selection(), IsEmpty()) << "dead art is never selected";
-  EXPECT_FALSE(document.isSelected(compound));
-  document.setSelected(second, true);
-  step([&] { document.setSelected(first, true); });
-  const std::vector<ArtId> steps[] = {{compound}, {path}};
-  for (const auto& expected : steps) {
-    ASSERT_TRUE(document.undo());
-    EXPECT_EQ(document.selection(), expected);
-  }
-  document.setSelected(second, true);
-  ASSERT_TRUE(document.redo()) << "selecting takes no redo away";
-  EXPECT_THAT(document.selection(), UnorderedElementsAre(path, first, second));
-  ASSERT_TRUE(document.redo());
-  EXPECT_THAT(document.selection(), IsEmpty());
-}
-
 TEST_F(SelectionTest, ChangesOutsideAnyStepKeepWhatWasSelectedBefore) {
   step([] {});
   document.setSelected(path, true);

@@ -41,10 +41,6 @@ struct Sample {
   std::string bytes;
 };
 
-void PrintTo(const Sample& sample, std::ostream* stream) {
-  *stream << sample.name;
-}
-
 std::string mixed() {
   return "<?xml version='1.0' standalone='no'?>\r\n<!DOCTYPE svg [\n <!ENTITY ns "
          "'http://www.w3.org/2000/svg'>\n"
@@ -65,35 +61,14 @@ const Sample kSamples[] = {
     {"no namespace", "<svg><g id='a'/></svg>"},
     {"prefix", "<s:svg xmlns:s='http://www.w3.org/2000/svg'><s:g id='a'/></s:svg>"}};
 
-class SvgSourceBytes : public testing::TestWithParam<Sample> {};
-
-TEST_P(SvgSourceBytes, ComeBackAsTheyWere) {
-  const auto source = parsed(GetParam().bytes);
-  ASSERT_NE(source, nullptr);
-  EXPECT_EQ(source->splice({}), GetParam().bytes);
-  EXPECT_TRUE(source->is(source->root(), "svg"));
-}
-
-// Each element's places delimit what they should, in whatever encoding.
-TEST_P(SvgSourceBytes, HaveTheirPlacesKnown) {
-  const auto source = parsed(GetParam().bytes);
-  ASSERT_NE(source, nullptr);
-  for (NodeIndex index = 1; index <= source->nodeCount(); ++index) {
-    const SvgNode& node = source->node(index);
-    if (!node.editable) continue;
-    const std::string tag = source->utf8(node.begin, node.tagEnd);
-    EXPECT_EQ(tag.front(), '<');
-    EXPECT_EQ(tag.back(), '>');
-    const auto [nameBegin, nameEnd] = source->rawName(index);
-    const std::string name = source->utf8(nameBegin, nameEnd);
-    EXPECT_THAT(name, testing::EndsWith(std::string(node.name)));
-    const std::string close = source->utf8(node.closeBegin, node.end);
-    EXPECT_THAT(close, testing::AnyOf("", testing::StartsWith("</" + name)));
-    EXPECT_EQ(close.empty(), testing::Value(tag, testing::EndsWith("/>")));
+TEST(SvgSource, GivesBytesBackAsTheyWere) {
+  for (const Sample& sample : kSamples) {
+    const auto source = parsed(sample.bytes);
+    ASSERT_NE(source, nullptr) << sample.name;
+    EXPECT_TRUE(source->splice({}) == sample.bytes) << sample.name;
+    EXPECT_TRUE(source->is(source->root(), "svg")) << sample.name;
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(All, SvgSourceBytes, testing::ValuesIn(kSamples));
 
 TEST(SvgSource, ReadsValuesInAnyEncoding) {
   const auto idOf = [](const Sample& sample) {

@@ -86,6 +86,28 @@ std::vector<SvgWriterCase> layerCases() {
        file("<g id='A' style='opacity:.5'><path d='M0 0h1'/></g><g id=\"B\" inkscape:label=\"&lt;B>\""
             " style=\"display:none\"><path d='M0 0h1'/></g>",
             kInk)},
+      {"steps chosen, changed, taken back and left alone",
+       file(
+           "<g id='A'><path d='M0 0h1'/></g><g id='B' ch:step='Structural/Drilling'><path d='M0 0h1'/></g>"
+           "<g id='C' ch:step='none'><path d='M0 0h1'/></g><g id='D' ch:step='Sawing'><path d='M0 0h1'/></g>",
+           kBoth),
+       [](SvgDrawing& d) {
+         Document& document = *d.document;
+         const std::vector<LayerId> layers = document.state().layers;
+         EXPECT_EQ(document.layer(layers[0])->step, std::nullopt) << "no such step";
+         EXPECT_EQ(d.remarks.back().reason, "its processing step \"Sawing\" is not known");
+         EXPECT_EQ(document.layer(layers[1])->step, "");
+         document.editLayer(layers[1]).step.reset();
+         document.editLayer(layers[2]).step = "";
+         document.editLayer(layers[3]).step = "Legend";
+         document.editLayer(addLayer(d, "E")).step = "Structural/Cutting";
+       },
+       file("<g id='A' ch:step=\"Legend\"><path d='M0 0h1'/></g><g id='B' ch:step='none'><path d='M0 "
+            "0h1'/></g>"
+            "<g id='C'><path d='M0 0h1'/></g><g id='D' ch:step='Sawing'><path d='M0 0h1'/></g>"
+            "<g inkscape:groupmode=\"layer\" inkscape:label=\"E\" ch:added=\"layer\""
+            " ch:step=\"Structural/Cutting\"/>",
+            kBoth)},
       {"a layer that goes",
        file("\n <g id='A'><path d='M0 0h1'/></g>\n <g id='B'>\n  <path d='M0 0h1'/>\n </g>\n"),
        [](SvgDrawing& d) { d.document->deleteLayer(d.document->state().layers[0]); },

@@ -185,6 +185,7 @@ class RandomEditor {
     Layer& layer = document_.editLayer(anyLayer());
     layer.visible = below(2) == 0;
     layer.editable = below(2) == 0;
+    if (below(2) == 0) layer.step = below(2) == 0 ? "Legend" : "";
     layer.title = below(4) == 0 ? "" : "title " + std::to_string(below(9));
   }
 

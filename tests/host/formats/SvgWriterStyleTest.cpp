@@ -104,6 +104,12 @@ std::vector<SvgWriterCase> swatchCases() {
             "</ch:swatches>"
             "\n </metadata>\n <path d='M0 0h1'/>\n",
             kHost)},
+      {"a block that declares its own prefix",
+       file("\n <metadata>\n  <ch:swatches" + std::string(kHost) +
+            ">\n   <ch:swatch name=\"a\" paint=\"cmyk(0 0 0 1)\"/>\n  </ch:swatches>\n </metadata>\n"),
+       [](SvgDrawing& d) { d.document->editSwatch(d.document->state().swatches[0]).name = "b"; },
+       file("\n <metadata>\n  <ch:swatches" + std::string(kHost) +
+            ">\n   <ch:swatch name=\"b\" paint=\"cmyk(0 0 0 1)\"/>\n  </ch:swatches>\n </metadata>\n")},
       {"the last swatch", file("\n <metadata>" + old + "\n </metadata>\n <path d='M0 0h1'/>\n", kHost),
        [](SvgDrawing& d) { d.document->editState().swatches.clear(); },
        file("\n <metadata>\n </metadata>\n <path d='M0 0h1'/>\n", kHost)},

@@ -161,7 +161,7 @@ std::string describe(const Document& document) {
     const std::string content = describe(document, layer.root, " ");
     if (content.empty() && layer.title == "Layer 1") continue;
     lines += "layer " + layer.title + (layer.visible ? "" : " hidden") + (layer.editable ? "" : " locked") +
-             "\n" + content;
+             (layer.step ? " step " + *layer.step : "") + "\n" + content;
   }
   for (const SwatchGroupId id : document.state().swatchGroups) {
     lines += "group " + document.swatchGroup(id)->name + "\n";

@@ -4,7 +4,9 @@
 
 #include <clocale>
 #include <cmath>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -15,6 +17,14 @@ constexpr std::int32_t kNumber = 0, kPt = 1, kInch = 2, kMm = 3, kPica = 5, kPer
 
 std::optional<double> evaluate(const std::string& text, std::int32_t field, double whole = 40) {
   return evaluateExpression(text, host::unitOfField(field), whole);
+}
+
+// What stands between bars.
+std::vector<std::string> parted(const std::string& texts) {
+  std::vector<std::string> parts;
+  std::istringstream stream(texts);
+  for (std::string part; std::getline(stream, part, '|');) parts.push_back(part);
+  return parts;
 }
 
 struct Readable {
@@ -82,10 +92,7 @@ TEST(EvaluateExpression, KnowsUnitsByTheirUsualSpellings) {
       {18 / 25.4, "Q|q|H"},
   };
   for (const auto& [points, spellings] : cases) {
-    std::string rest = spellings;
-    while (!rest.empty()) {
-      const std::string spelling = rest.substr(0, rest.find('|'));
-      rest.erase(0, spelling.size() + 1);
+    for (const std::string& spelling : parted(spellings)) {
       for (const char* blank : {"", " "}) {
         EXPECT_DOUBLE_EQ(evaluate("2" + (blank + spelling), kPt).value_or(-1), 2 * points) << spelling;
       }
@@ -94,49 +101,19 @@ TEST(EvaluateExpression, KnowsUnitsByTheirUsualSpellings) {
 }
 
 TEST(EvaluateExpression, RefusesWhatIsNoQuantityOfTheField) {
-  const std::pair<const char*, std::int32_t> cases[] = {
-      {"10 mm", kNumber},
-      {"10 mm", kPercent},
-      {"10 mm", kDegree},
-      {"90\xC2\xB0", kMm},
-      {"1\xC2\xB0 + 1 mm", kMm},
-      {"3 mm * 4 mm", kMm},
-      {"3 mm * 4 mm / 2 mm", kMm},
-      {"4 / (2 mm)", kMm},
-      {"1 mm / 0", kMm},
-      {"1 / (2 - 2)", kMm},
-      {"1 mm / 0 mm", kMm},
-      {"1/0 mm", kMm},
-      {"1.234,5", kMm},
-      {"1,234.5", kMm},
-      {"1.2.3", kMm},
-      {"1 000", kMm},
-      {"5'000", kInch},
-      {"5'6", kInch},
-      {"3p6 mm", kPt},
-      {"3 mm 2 mm", kMm},
-      {"", kMm},
-      {" ", kMm},
-      {".", kMm},
-      {"mm", kMm},
-      {"+", kMm},
-      {"1 +", kMm},
-      {"* 2", kMm},
-      {"1 ** 2", kMm},
-      {"(1", kMm},
-      {"1)", kMm},
-      {"()", kMm},
-      {"2(3)", kMm},
-      {"1e3", kMm},
-      {"nan", kMm},
-      {"inf", kMm},
-      {"0x10", kMm},
-      {"1 millimetrefoo", kMm},
-      {"1\xFF", kMm},
-      {"1\xEF\xBF\xBD", kMm},
-      {"\xE2\x88", kMm},
-  };
-  for (const auto& [text, field] : cases) EXPECT_FALSE(evaluate(text, field).has_value()) << text;
+  const std::pair<std::int32_t, const char*> cases[] = {
+      {kNumber, "10 mm"},
+      {kPercent, "10 mm"},
+      {kDegree, "10 mm"},
+      {kInch, "5'000|5'6"},
+      {kPt, "3p6 mm"},
+      {kMm, "90\xC2\xB0|1\xC2\xB0 + 1 mm|3 mm * 4 mm|3 mm * 4 mm / 2 mm|4 / (2 mm)"},
+      {kMm, "1 mm / 0|1 / (2 - 2)|1 mm / 0 mm|1/0 mm|1.234,5|1,234.5|1.2.3|1 000|3 mm 2 mm"},
+      {kMm, "| |.|mm|+|1 +|* 2|1 ** 2|(1|1)|()|2(3)|1e3|nan|inf|0x10"},
+      {kMm, "1 millimetrefoo|1\xFF|1\xEF\xBF\xBD|\xE2\x88"}};
+  for (const auto& [field, texts] : cases) {
+    for (const std::string& text : parted(texts)) EXPECT_FALSE(evaluate(text, field).has_value()) << text;
+  }
   EXPECT_FALSE(evaluate(std::string("1\0", 2), kMm).has_value());
 }
 

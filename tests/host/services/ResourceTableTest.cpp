@@ -79,14 +79,5 @@ TEST_F(ResourceTableTest, NothingLeadsOutOfTheResources) {
   }
 }
 
-TEST_F(ResourceTableTest, LongLinesTakeNoLongTime) {
-  write("png/a.png");
-  write("txt/IDToFile.txt", std::string(500'000, '5') + "\n" + std::string(500'000, ' ') + "\n" +
-                                std::string(500'000, '\r') + "5.PNG a.png" + std::string(500'000, 'x'));
-  EXPECT_EQ(find(5), "none") << "the name is longer than names are";
-  write("txt/IDToFile.txt", std::string("\0\n5.PNG a.png \0", 15));
-  EXPECT_EQ(find(5), "png/a.png");
-}
-
 }  // namespace
 }  // namespace host

@@ -1,4 +1,4 @@
-// What the command `marks` has to know of the product behind it: the one place where the host names it.
+// What has to be known of the product that makes register marks: the one place where the host names it.
 #pragma once
 
 namespace host {

@@ -1,0 +1,78 @@
+#include <cmath>
+#include <string_view>
+
+#include "Bounds.h"
+#include "Checks.h"
+#include "Vector.h"
+
+namespace host {
+namespace {
+
+// Millimetres. Ends closer than this are one point to any table; up to the other, somebody meant to close it.
+constexpr double kTouching = 0.01;
+constexpr double kNearlyClosed = 2;
+// Beside its gap, a shape that was meant to be closed is at least so many times as wide or high.
+constexpr double kShapeToGap = 3;
+
+// Through or part of the way. Perforations, and lines that cut and crease by turns, run from edge to edge.
+bool shouldBeClosed(const std::string& step) {
+  constexpr std::string_view kEnd = "Cutting";
+  return step.size() > kEnd.size() && step.compare(step.size() - kEnd.size(), kEnd.size(), kEnd) == 0;
+}
+
+class OpenPaths {
+ public:
+  OpenPaths(const PreflightJob& job, const PreflightJob::Type& type) : job_(job), type_(type) {
+    for (const PreflightJob::Line& line : type.lines) {
+      for (std::uint32_t i = line.firstPath; i < line.endPath; ++i) add(line.art, *job.drawn.paths[i]);
+    }
+  }
+
+  void report(Findings& findings) const {
+    const std::string in = " in " + type_.is.name;
+    if (nearly_.count > 0) {
+      findings.push_back({FindingKind::OpenPath,
+                          counted(nearly_.count, "nearly closed path") + in + ": the first has a gap of " +
+                              job_.length(firstGap_) + " " + job_.at(nearly_.first) +
+                              ", where the part stays attached",
+                          nearly_.art, type_.is.name});
+    }
+    if (open_.count > 0) {
+      findings.push_back({FindingKind::OpenPath,
+                          counted(open_.count, "open path") + in + ": the first ends " +
+                              job_.at(open_.first) + "; only a closed line cuts a part free",
+                          open_.art, type_.is.name});
+    }
+  }
+
+ private:
+  void add(ArtId art, const PathGeometry& path) {
+    if (path.closed || path.segments.size() < 2) return;
+    const double gap = length(path.segments.back().p - path.segments.front().p);
+    if (gap <= job_.unitsOf(kTouching)) return;
+    const AIRealRect box = pathBounds(path);
+    const bool isShape = std::hypot(box.right - box.left, box.top - box.bottom) >= kShapeToGap * gap;
+    if (gap <= job_.unitsOf(kNearlyClosed) && isShape) {
+      if (nearly_.count == 0) firstGap_ = gap;
+      nearly_.add(art, path.segments.back().p);
+    } else if (shouldBeClosed(type_.step)) {
+      open_.add(art, path.segments.back().p);
+    }
+  }
+
+  const PreflightJob& job_;
+  const PreflightJob::Type& type_;
+  Tally nearly_, open_;
+  double firstGap_ = 0;  // of those that are nearly closed
+};
+
+}  // namespace
+
+void checkOpenPaths(const PreflightJob& job, Findings& findings) {
+  for (const PreflightJob::Type& type : job.types) {
+    // What is not known may well cut.
+    if (type.step.empty() || shouldBeClosed(type.step)) OpenPaths(job, type).report(findings);
+  }
+}
+
+}  // namespace host

@@ -1,0 +1,152 @@
+// Small drawings, each with exactly the faults that it was drawn with.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "Preflight.h"
+#include "SvgDrawing.h"
+
+namespace host {
+namespace {
+
+using testing::ElementsAreArray;
+using testing::HasSubstr;
+
+constexpr char kCutPaint[] = " style='fill:none;stroke:#f00' ch:stroke=\"custom('Through Cut' 0)\"";
+constexpr char kCreasePaint[] = " style='fill:none;stroke:#00f' ch:stroke=\"custom('Crease' 0)\"";
+
+std::string cut(const std::string& data) {
+  return std::string("<path") + kCutPaint + " d='" + data + "'/>";
+}
+std::string crease(const std::string& data) {
+  return std::string("<path") + kCreasePaint + " d='" + data + "'/>";
+}
+std::string layer(const std::string& title, const std::string& content, const std::string& more = {}) {
+  return "<g inkscape:groupmode='layer' inkscape:label='" + title + "' " + more + ">" + content + "</g>";
+}
+// A dot of 6 mm.
+std::string mark(double x, double y) {
+  return "<circle inkscape:label='brevia Regmark' r='3' cx='" + std::to_string(x) + "' cy='" +
+         std::to_string(y) + "'/>";
+}
+const std::string kFourMarks = mark(20, 20) + mark(180, 20) + mark(180, 180) + mark(20, 180);
+
+// 200 by 200 mm, in millimetres.
+std::shared_ptr<Document> drawn(const std::string& layers, const std::string& moreSwatches = {}) {
+  auto read = readSvg(
+      "<svg xmlns='http://www.w3.org/2000/svg' xmlns:ch='urn:x-corvane-host:drawing:1'"
+      " xmlns:inkscape='http://www.inkscape.org/namespaces/inkscape'"
+      " xmlns:sodipodi='http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd'"
+      " width='200mm' height='200mm' viewBox='0 0 200 200'><metadata><ch:swatches>"
+      "<ch:color name='Through Cut' definition='rgb(1 0 0)' spot='true'/>"
+      "<ch:color name='Crease' definition='rgb(0 0 1)' spot='true'/>" +
+          moreSwatches + "</ch:swatches></metadata>" + layers + "</svg>",
+      nullptr);
+  return std::get<SvgDrawing>(read).document;
+}
+
+struct Case {
+  const char* name;
+  std::string layers;
+  std::vector<std::string> kinds;
+  const char* sentence;  // a part of the first
+  std::size_t art = 1;   // in the first
+  std::string swatches = {};
+};
+
+std::vector<Case> cases() {
+  const std::string square = "M40 40h60v60h-60z";
+  const std::string squareInFrame = layer("Through Cut", cut(square));
+  const std::string withFifth = layer("Regmark", kFourMarks + mark(60, 180));
+  return {
+      {"clean", layer("Print", "<rect width='9' height='9'/>") + squareInFrame + withFifth, {}, ""},
+      {"nearly closed",
+       layer("Through Cut", cut("M10 10h40v40h-40V10.35")),
+       {"open-path"},
+       "1 nearly closed path in Through Cut: the first has a gap of 0.35 mm at (10, 10.4) mm"},
+      {"a crease is open, its ends may lie on each other",
+       layer("Crease", crease("M10 10h40") + crease("M10 30h40v40h-40v-39")) +
+           layer("Through Cut", cut("M60 10h9v9h-9v-9")),
+       {},
+       ""},
+      {"open", layer("Through Cut", cut("M10 10h40v40")), {"open-path"}, "the first ends at (50, 50) mm"},
+      {"doubled: the other way round, otherwise divided, in part",
+       layer("Through Cut",
+             cut(square) + cut("M100 40h-60v60h60z") + "<circle cx='150' cy='50' r='20'" + kCutPaint + "/>" +
+                 cut("M164.142 64.142A20 20 0 0 1 135.858 35.858A20 20 0 0 1 164.142 64.142z") +
+                 cut("M100 150h40v20h-40z") + cut("M120 130h40v20.05h-40z") + cut("M10 100h30v30h-30z")),
+       {"doubled-line"},
+       "6 paths in Through Cut lie over each other",
+       6},
+      {"crossing, touching and apart by a quarter of a millimetre",
+       layer("Through Cut", cut(square) + cut("M30 70h80v40h-80z") + cut("M100 100h20v20h-20z") +
+                                cut("M40.25 40.25h59.5v59.5h-59.5z")),
+       {},
+       ""},
+      {"hidden and locked",
+       layer("Through Cut", "<g sodipodi:insensitive='true'>" + cut(square) + "</g><g style='display:none'>" +
+                                cut("M110 10h9v9h-9z") + cut("M130 10h9v9h-9z") + "</g>"),
+       {"out-of-reach", "out-of-reach"},
+       "2 paths in Through Cut are hidden",
+       2},
+      {"hidden layers",
+       layer("Through Cut", cut(square), "style='display:none'") +
+           layer("Regmark", kFourMarks, "style='display:none'"),
+       {"out-of-reach", "out-of-reach", "symmetrical-marks"},
+       "1 path in Through Cut is on a hidden layer, the first at (40, 40) mm"},
+      {"blanks and case, and a layer without its color",
+       layer("Through Cut", cut(square)) + layer("through\u00A0cut ", "") +
+           layer("Kiss  cut", cut("M1 1h9v9h-9z")),
+       {"near-miss-name", "near-miss-name", "wrong-layer"},
+       "The layer \u201CKiss  cut\u201D is named like a line type"},
+      {"on the wrong layer, and wrongly painted on the right one",
+       layer("Print", cut(square)) + layer("Through Cut", "<rect x='110' width='9' height='9'/>"),
+       {"wrong-layer", "wrong-layer"},
+       "1 path in Through Cut lies on the layer Print, the first at (40, 40) mm"},
+      {"out of the frame, or too near to it",
+       layer("Through Cut", cut("M2 40h60v60h-60z") + cut("M40 20.5h60v60h-60z") + cut("M40 90h9v9h-9z") +
+                                cut("M300 300h9v9h-9z")) +
+           withFifth,
+       {"outside-marks", "outside-marks"},
+       "2 paths in Through Cut leave the frame",
+       2},
+      {"art in clear zones, a ground of ink, and paper white over it",
+       layer("Print",
+             "<rect fill='#888' width='100' height='200'/><circle cx='20' cy='20' r='9' fill='#fff'/>"
+             "<rect x='174.1' y='24' width='9' height='9'/>") +
+           withFifth,
+       {"in-clear-zone", "in-clear-zone"},
+       "1 of 5 marks has art within 5.98 mm of the centre, the first at (180, 20) mm"},
+      {"symmetrical", layer("Regmark", kFourMarks), {"symmetrical-marks"}, "The 4 marks look the same", 4},
+      {"tiny, and of no length",
+       layer("Through Cut", cut("M40 40h60v0.05h0.04v60h-60.04z") + cut("M10 10h9v9v0h-9z")),
+       {"tiny-segment", "tiny-segment"},
+       "2 segments in Through Cut are shorter than 0.1 mm, the first at (100, 40) mm"},
+      {"text",
+       layer("Through Cut", "<text x='9' y='50'>Moin</text>"),
+       {"live-text"},
+       "1 text in Through Cut"},
+  };
+}
+
+TEST(Preflight, FindsWhatIsWrongAndNothingElse) {
+  for (const Case& row : cases()) {
+    const auto document = drawn(row.layers, row.swatches);
+    const std::vector<Finding> findings = preflight(*document);
+    std::vector<std::string> kinds;
+    std::string sentences;
+    for (const Finding& finding : findings) {
+      kinds.push_back(keyOf(finding.kind));
+      sentences += finding.sentence + "\n";
+    }
+    EXPECT_THAT(kinds, ElementsAreArray(row.kinds)) << row.name << "\n" << sentences;
+    if (findings.empty()) continue;
+    EXPECT_THAT(sentences, HasSubstr(row.sentence)) << row.name;
+    EXPECT_EQ(findings.front().art.size(), row.art) << row.name << "\n" << sentences;
+  }
+}
+
+}  // namespace
+}  // namespace host
