@@ -20,7 +20,15 @@ struct Alternate {
   std::string space, none, full;
 };
 
+// A camera finds marks by their black, which four inks would blur.
+bool isBlack(const AICustomColor& definition) {
+  const AIThreeColorStyle& rgb = definition.c.rgb;
+  return (definition.flag & kCustomRegistrationColor) != 0 ||
+         (definition.kind == kCustomThreeColor && rgb.red == 0 && rgb.green == 0 && rgb.blue == 0);
+}
+
 Alternate alternateOf(const AICustomColor& definition) {
+  if (isBlack(definition)) return {"/DeviceCMYK", numbers({0, 0, 0, 0}), numbers({0, 0, 0, 1})};
   switch (definition.kind) {
     case kCustomThreeColor: {
       const AIThreeColorStyle& rgb = definition.c.rgb;

@@ -10,10 +10,12 @@
 
 namespace host {
 
+class PdfChoice;
+
 class PdfLayers {
  public:
-  // Puts the groups into the catalog, in the document's order and state. `steps`: see PdfOptions.
-  PdfLayers(QPDF& pdf, const Document& document, const std::map<std::string, std::string>& steps);
+  // Puts the groups of the chosen layers into the catalog, in the document's order and state.
+  PdfLayers(QPDF& pdf, const Document& document, const PdfChoice& choice);
 
   // The operator that begins the content of a layer; "EMC" ends it.
   std::string begin(LayerId layer) const;
@@ -23,10 +25,5 @@ class PdfLayers {
  private:
   std::map<LayerId, QPDFObjectHandle> groups_;
 };
-
-// Does a step say a known group and, where the group wants one, a known type: "Structural/Cutting", "Legend"?
-bool isProcessingStep(const std::string& step);
-// All that are known.
-std::vector<std::string> processingSteps();
 
 }  // namespace host

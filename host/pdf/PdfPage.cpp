@@ -33,18 +33,19 @@ PdfPage::PdfPage(PdfParts& parts, std::size_t artboard, double userUnit)
       scale_(matrix_.a) {}
 
 std::string PdfPage::content() {
-  const auto& layers = document_.state().layers;
+  const auto& layers = parts_.choice.layers();
   for (auto id = layers.rbegin(); id != layers.rend(); ++id) addLayer(*id);
-  return std::move(text_);
+  return std::move(out_.text);
 }
 
 // Each layer sets what it needs inside itself, so that it can be left out.
 void PdfPage::addLayer(LayerId id) {
-  text_ += parts_.layers.begin(id) + "q\n";
-  hasState_ = false;
-  lastPicture_ = kNone;
+  layer_ = id;
+  out_.text += parts_.layers.begin(id) + "q\n";
+  out_.hasState = false;
+  out_.lastPicture = kNone;
   addTree(document_.layer(id)->root);
-  text_ += "Q\nEMC\n";
+  out_.text += "Q\nEMC\n";
 }
 
 void PdfPage::addTree(ArtId root) {
@@ -65,56 +66,93 @@ void PdfPage::addTree(ArtId root) {
 
 bool PdfPage::enter(ArtId id) {
   const Art& art = *document_.art(id);
-  if (art.hidden || art.guide || !isOnPage(id)) return false;
+  if (art.hidden || art.guide) return false;
   if (parts_.plan.wayOf(id) == PdfWay::Picture) {
-    addPicture(parts_.plan.elementOf(id));
+    if (parts_.choice.takesPrint(layer_) && isOnPage(id))
+      addPicture(parts_.plan.elementOf(id), parts_.plan.opacityRound(id));
     return false;
   }
+  if (art.type == kGroupArt && art.lastChild == 0) return false;
+  if (art.type != kGroupArt && !isOnPage(id)) return false;
   const std::size_t clips = clip(art.clip.get());
-  if (art.type == kGroupArt && art.lastChild != 0) return true;
-  if (art.type == kPathArt) addPaths(id, {art.path.get()}, *art.style);
-  if (art.type == kCompoundPathArt) {
-    std::vector<const PathGeometry*> paths;
-    for (ArtId child = art.lastChild; child != 0; child = document_.art(child)->above) {
-      const Art& part = *document_.art(child);
-      if (!part.hidden && !part.guide && part.path) paths.push_back(part.path.get());
-    }
-    addPaths(id, paths, *art.style);
+  if (parts_.plan.fadesAsOne(id)) beginGroup();
+  if (art.type == kGroupArt) {
+    if (parts_.plan.isFaded(id)) parts_.pictures.leaveOpacityOf(parts_.plan.elementOf(id));
+    return true;
   }
-  if (art.body) addBody(id, *art.body);
+  addLeaf(id);
+  if (parts_.plan.fadesAsOne(id)) endGroup(parts_.plan.opacityOf(id));
   pop(clips);
   return false;
 }
 
 void PdfPage::leave(ArtId id) {
+  if (parts_.plan.fadesAsOne(id)) endGroup(parts_.plan.opacityOf(id));
   std::size_t clips = 0;
   for (const Clip* at = document_.art(id)->clip.get(); at != nullptr; at = at->further.get()) ++clips;
   pop(clips);
 }
 
-void PdfPage::addPicture(NodeIndex element) {
-  if (lastPicture_ != kNone) return parts_.pictures.add(lastPicture_, element);
-  lastPicture_ = parts_.pictures.request(artboard_, element);
-  // The form is as large as the page in points.
-  text_ += "q ";
-  const double unit = scale_ / document_.scale();
-  for (const double entry : {unit, 0.0, 0.0, unit, 0.0, 0.0}) appendPdfNumber(text_, entry);
-  text_ += "cm " + pdfResource("P", lastPicture_) + " Do Q\n";
+void PdfPage::addLeaf(ArtId id) {
+  const Art& art = *document_.art(id);
+  if (art.type == kPathArt) addPath(id, {art.path.get()});
+  if (art.type == kCompoundPathArt) addCompound(id);
+  if (art.body) addBody(id, *art.body);
 }
 
-void PdfPage::addPaths(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& style) {
+void PdfPage::addCompound(ArtId id) {
+  std::vector<const PathGeometry*> paths;
+  for (ArtId child = document_.art(id)->lastChild; child != 0; child = document_.art(child)->above) {
+    const Art& part = *document_.art(child);
+    if (!part.hidden && !part.guide && part.path) paths.push_back(part.path.get());
+  }
+  addPath(id, paths);
+}
+
+void PdfPage::addPicture(NodeIndex element, double opacity, PdfRest rest) {
+  if (out_.lastPicture != kNone && out_.lastOpacity == opacity) {
+    return parts_.pictures.add(out_.lastPicture, element, rest);
+  }
+  out_.lastPicture = parts_.pictures.request(artboard_, element, rest);
+  out_.lastOpacity = opacity;
+  choose({false, false, opacity, opacity});
+  const std::string name = pdfResource("P", out_.lastPicture);
+  out_.objects.insert(name);
+  // The form is as large as the page in points.
+  out_.text += "q ";
+  const double unit = scale_ / document_.scale();
+  for (const double entry : {unit, 0.0, 0.0, unit, 0.0, 0.0}) appendPdfNumber(out_.text, entry);
+  out_.text += "cm " + name + " Do Q\n";
+}
+
+// In the order of SVG: fill, stroke, markers.
+void PdfPage::addPath(ArtId id, const std::vector<const PathGeometry*>& paths) {
+  AIPathStyle style = *document_.art(id)->style;
+  const PdfRest rest = parts_.plan.restOf(id);
+  const NodeIndex element = parts_.plan.elementOf(id);
+  const double opacity = parts_.plan.fadesAsOne(id) ? 1 : parts_.plan.opacityOf(id);
+  const bool hasRest = rest != PdfRest::None && parts_.choice.takesPrint(layer_);
+  if (hasRest && rest == PdfRest::Fill) addPicture(element, opacity, rest);
+  if (rest == PdfRest::Fill) style.fillPaint = 0;
+  if (rest == PdfRest::Stroke) style.strokePaint = 0;
+  addInked(id, paths, style);
+  if (hasRest && rest != PdfRest::Fill) addPicture(element, opacity, rest);
+}
+
+void PdfPage::addInked(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& whole) {
+  const AIPathStyle style = parts_.choice.taken(whole, layer_);
   const bool fills = paintsFill(style), strokes = paintsStroke(style);
   if (!fills && !strokes) return;
-  lastPicture_ = kNone;
+  out_.lastPicture = kNone;
   choose({strokes && style.stroke.overprint != 0, fills && style.fill.overprint != 0,
           parts_.plan.strokeOpacityOf(id), parts_.plan.fillOpacityOf(id)});
-  if (fills) text_ += parts_.inks.choose(style.fill.color, false);
+  if (fills) out_.text += parts_.inks.choose(style.fill.color, false);
   if (strokes) {
-    text_ += parts_.inks.choose(style.stroke.color, true);
+    out_.text += parts_.inks.choose(style.stroke.color, true);
     setStroke(style.stroke);
   }
-  for (const PathGeometry* path : paths) appendPdfPath(text_, *path, matrix_);
-  text_ += paintOperator(style);
+  for (const PathGeometry* path : paths) appendPdfPath(out_.text, *path, matrix_);
+  out_.text += paintOperator(style);
 }
 
 void PdfPage::addBody(ArtId id, const Body& body) {
@@ -122,7 +160,7 @@ void PdfPage::addBody(ArtId id, const Body& body) {
     const std::size_t clips = clip(part.clip.get());
     std::vector<const PathGeometry*> paths;
     for (const PathGeometry& path : part.paths) paths.push_back(&path);
-    addPaths(id, paths, part.style);
+    addInked(id, paths, part.style);
     pop(clips);
   }
 }
@@ -130,45 +168,65 @@ void PdfPage::addBody(ArtId id, const Body& body) {
 std::size_t PdfPage::clip(const Clip* clip) {
   std::size_t states = 0;
   for (; clip != nullptr; clip = clip->further.get(), ++states) {
-    text_ += "q\n";
+    out_.text += "q\n";
     bool evenOdd = clip->outlines.size() == 1 && clip->outlines.front().evenOdd;
-    if (clip->outlines.empty()) text_ += "0 0 0 0 re\n";
+    if (clip->outlines.empty()) out_.text += "0 0 0 0 re\n";
     for (const Clip::Outline& outline : clip->outlines) {
-      for (const PathGeometry& path : outline.paths) appendPdfPath(text_, path, matrix_);
+      for (const PathGeometry& path : outline.paths) appendPdfPath(out_.text, path, matrix_);
     }
-    text_ += evenOdd ? "W* n\n" : "W n\n";
+    out_.text += evenOdd ? "W* n\n" : "W n\n";
   }
-  if (states > 0) lastPicture_ = kNone;
+  if (states > 0) out_.lastPicture = kNone;
   return states;
 }
 
 void PdfPage::pop(std::size_t states) {
-  for (std::size_t i = 0; i < states; ++i) text_ += "Q\n";
+  for (std::size_t i = 0; i < states; ++i) out_.text += "Q\n";
   if (states == 0) return;
-  lastPicture_ = kNone;
-  hasState_ = false;
+  out_.lastPicture = kNone;
+  out_.hasState = false;
+}
+
+void PdfPage::beginGroup() {
+  round_.push_back(std::move(out_));
+  out_ = Stream();
+}
+
+void PdfPage::endGroup(double opacity) {
+  Stream group = std::move(out_);
+  out_ = std::move(round_.back());
+  round_.pop_back();
+  if (group.text.empty()) return;
+  const AIRealRect& page = document_.state().artboards[artboard_].position;
+  const std::string name =
+      parts_.groups.add(std::move(group.text), std::move(group.objects), (page.right - page.left) * scale_,
+                        (page.top - page.bottom) * scale_);
+  out_.objects.insert(name);
+  out_.lastPicture = kNone;
+  choose({false, false, opacity, opacity});
+  out_.text += name + " Do\n";
 }
 
 void PdfPage::setStroke(const AIStrokeStyle& stroke) {
-  appendPdfNumber(text_, stroke.width * scale_);
-  text_ += "w " + std::to_string(stroke.cap) + " J " + std::to_string(stroke.join) + " j ";
-  appendPdfNumber(text_, std::max(stroke.miterLimit, 1.0));
-  text_ += "M [ ";
-  for (int i = 0; i < stroke.dash.length; ++i) appendPdfNumber(text_, stroke.dash.array[i] * scale_);
-  text_ += "] ";
-  appendPdfNumber(text_, stroke.dash.length == 0 ? 0 : stroke.dash.offset * scale_);
-  text_ += "d\n";
+  appendPdfNumber(out_.text, stroke.width * scale_);
+  out_.text += "w " + std::to_string(stroke.cap) + " J " + std::to_string(stroke.join) + " j ";
+  appendPdfNumber(out_.text, std::max(stroke.miterLimit, 1.0));
+  out_.text += "M [ ";
+  for (int i = 0; i < stroke.dash.length; ++i) appendPdfNumber(out_.text, stroke.dash.array[i] * scale_);
+  out_.text += "] ";
+  appendPdfNumber(out_.text, stroke.dash.length == 0 ? 0 : stroke.dash.offset * scale_);
+  out_.text += "d\n";
 }
 
 void PdfPage::choose(const PdfState& state) {
-  if (hasState_ && state == state_) return;
-  state_ = state;
-  hasState_ = true;
-  text_ += parts_.states.choose(state);
+  if (out_.hasState && state == out_.state) return;
+  out_.state = state;
+  out_.hasState = true;
+  out_.text += parts_.states.choose(state);
 }
 
 bool PdfPage::isOnPage(ArtId id) const {
-  if (document_.art(id)->parent == 0 || document_.state().artboards.size() == 1) return true;
+  if (document_.state().artboards.size() == 1) return true;
   const AIRealRect box = artBounds(document_, id, nullptr, 0);
   return !isEmpty(intersect(box, document_.state().artboards[artboard_].position));
 }

@@ -1,9 +1,12 @@
 // The content of a page: an artboard with all art, layer by layer.
 #pragma once
 
+#include <set>
 #include <string>
 #include <vector>
 
+#include "PdfChoice.h"
+#include "PdfGroups.h"
 #include "PdfInks.h"
 #include "PdfLayers.h"
 #include "PdfPictures.h"
@@ -15,11 +18,13 @@ namespace host {
 // What all pages share.
 struct PdfParts {
   const SvgDrawing& drawing;
+  const PdfChoice& choice;
   const PdfPlan& plan;
   PdfLayers& layers;
   PdfInks& inks;
   PdfStates& states;
   PdfPictures& pictures;
+  PdfGroups& groups;
 };
 
 // Where an artboard's page shows a point of the document, in units of the page: a point, or `userUnit`
@@ -30,19 +35,36 @@ class PdfPage {
  public:
   PdfPage(PdfParts& parts, std::size_t artboard, double userUnit);
 
-  // The operators. Pictures are asked for on the way and stand in it as "/P1 Do".
+  // The operators. Pictures and groups are asked for on the way and stand in it as "/P1 Do".
   std::string content();
 
  private:
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+  // What is being written: the page, or a group that fades as one.
+  struct Stream {
+    std::string text;
+    std::set<std::string> objects;  // resource names of what it paints as a whole
+    PdfState state;
+    bool hasState = false;
+    std::size_t lastPicture = kNone;  // at the end of the text, to be joined by the next
+    double lastOpacity = 1;           // of that picture
+  };
+
   void addLayer(LayerId id);
   void addTree(ArtId root);
   bool enter(ArtId id);  // true if its children are to be gone through; then leave() follows
   void leave(ArtId id);
-  void addPicture(NodeIndex element);
-  void addPaths(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& style);
+  void addLeaf(ArtId id);
+  void addCompound(ArtId id);
+  void addPicture(NodeIndex element, double opacity, PdfRest rest = PdfRest::None);
+  void addPath(ArtId id, const std::vector<const PathGeometry*>& paths);
+  void addInked(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& style);
   void addBody(ArtId id, const Body& body);
   std::size_t clip(const Clip* clip);  // how many states were pushed
   void pop(std::size_t states);
+  void beginGroup();
+  void endGroup(double opacity);
   void setStroke(const AIStrokeStyle& stroke);
   void choose(const PdfState& state);
   bool isOnPage(ArtId id) const;
@@ -52,12 +74,9 @@ class PdfPage {
   const std::size_t artboard_;
   const AIRealMatrix matrix_;
   const double scale_;  // page units in a document unit
-  std::string text_;
-  std::size_t lastPicture_ = kNone;  // at the end of the text, to be joined by the next
-  PdfState state_;
-  bool hasState_ = false;
-
-  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  LayerId layer_ = 0;
+  Stream out_;
+  std::vector<Stream> round_;  // what the group being written lies in
 };
 
 }  // namespace host

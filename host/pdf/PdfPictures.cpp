@@ -3,7 +3,6 @@
 #include <cairo-pdf.h>
 
 #include <qpdf/QPDFPageDocumentHelper.hh>
-#include <set>
 
 #include "RsvgLoading.h"
 #include "SvgNumber.h"
@@ -33,33 +32,47 @@ class NamedCopy {
   explicit NamedCopy(const SvgDrawing& drawing)
       : expanded_(drawing.source->withEntitiesExpanded()), writing_(drawing, *expanded_) {}
 
-  std::string make(const std::set<NodeIndex>& elements, const SvgPictureSource& shown) {
+  std::string make(const std::map<NodeIndex, PdfRest>& elements, const std::set<NodeIndex>& unfaded,
+                   const SvgPictureSource& shown) {
     if (shown.shownPart) show(*shown.shownPart, shown.bounds);
     showLayers();
-    for (const NodeIndex element : elements) {
+    for (const NodeIndex element : unfaded) edit(element).setInStyle("opacity", "1");
+    for (const auto& [element, rest] : elements) {
       if (element != writing_.source.root()) wrap(element);
+      if (rest != PdfRest::None) leaveOnly(rest, element);
     }
+    for (auto& [element, tag] : tags_) tag.write(writing_.plan, writing_.prefixes);
     return writing_.plan.apply(writing_.prefixes);
   }
 
  private:
+  SvgTagEdit& edit(NodeIndex element) {
+    return tags_.try_emplace(element, writing_.source, writing_.declared, element).first->second;
+  }
+
   void show(const PixelRect& part, const AIRealRect& bounds) {
-    SvgTagEdit tag(writing_.source, writing_.declared, writing_.source.root());
+    SvgTagEdit& tag = edit(writing_.source.root());
     tag.set("viewBox", numberText(part.x) + " " + numberText(part.y) + " " + numberText(part.width) + " " +
                            numberText(part.height));
     tag.set("width", numberText(bounds.right - bounds.left) + "pt");
     tag.set("height", numberText(bounds.top - bounds.bottom) + "pt");
     tag.set("preserveAspectRatio", "none");
-    tag.write(writing_.plan, writing_.prefixes);
   }
 
   void showLayers() {
     for (const LayerId id : writing_.document.state().layers) {
       const Layer& layer = *writing_.document.layer(id);
-      if (layer.visible || layer.source == 0) continue;
-      SvgTagEdit tag(writing_.source, writing_.declared, layer.source);
-      tag.setInStyle("display", "inline");
-      tag.write(writing_.plan, writing_.prefixes);
+      if (!layer.visible && layer.source != 0) edit(layer.source).setInStyle("display", "inline");
+    }
+  }
+
+  void leaveOnly(PdfRest rest, NodeIndex element) {
+    SvgTagEdit& tag = edit(element);
+    tag.setInStyle("opacity", "1");
+    if (rest != PdfRest::Fill) tag.setInStyle("fill", "none");
+    if (rest != PdfRest::Stroke) tag.setInStyle("stroke", "none");
+    for (const char* place : {"marker-start", "marker-mid", "marker-end"}) {
+      if (rest == PdfRest::Fill) tag.setInStyle(place, "none");
     }
   }
 
@@ -75,6 +88,7 @@ class NamedCopy {
 
   std::unique_ptr<SvgSource> expanded_;
   SvgWriting writing_;
+  std::map<NodeIndex, SvgTagEdit> tags_;
 };
 
 // Where `bounds` lies on the page of an artboard: points, y down.
@@ -85,20 +99,24 @@ RsvgRectangle viewportOn(const AIRealRect& page, const AIRealRect& bounds, doubl
 
 }  // namespace
 
-std::size_t PdfPictures::request(std::size_t artboard, NodeIndex element) {
-  requests_.push_back({artboard, {element}});
+std::size_t PdfPictures::request(std::size_t artboard, NodeIndex element, PdfRest rest) {
+  requests_.push_back({artboard, {}});
+  add(requests_.size() - 1, element, rest);
   return requests_.size() - 1;
+}
+
+void PdfPictures::add(std::size_t picture, NodeIndex element, PdfRest rest) {
+  requests_[picture].elements.push_back(element);
+  elements_[element] = rest;
 }
 
 std::string PdfPictures::drawInto(QPDF& pdf, const std::filesystem::path& file,
                                   std::vector<QPDFObjectHandle>& forms) const {
   if (requests_.empty()) return {};
-  std::set<NodeIndex> elements;
-  for (const Request& request : requests_) elements.insert(request.elements.begin(), request.elements.end());
   const SvgPictureSource shown = pictureSource(drawing_, {}, file);
   std::string reason;
-  const RsvgPointer handle =
-      loadRsvg(NamedCopy(drawing_).make(elements, shown), file, reason, RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA);
+  const RsvgPointer handle = loadRsvg(NamedCopy(drawing_).make(elements_, unfaded_, shown), file, reason,
+                                      RSVG_HANDLE_FLAG_KEEP_IMAGE_DATA);
   if (!handle) return reason;
 
   std::string bytes;

@@ -3,21 +3,31 @@
 #include <algorithm>
 
 #include "Paint.h"
+#include "PdfChoice.h"
 
 namespace host {
 namespace {
 
-bool isServer(const AIColor& color) {
-  return color.kind == kGradient || color.kind == kPattern;
+bool fillsWithInk(const AIPathStyle& style) {
+  return paintsFill(style) && isInk(style.fill.color);
+}
+
+bool strokesWithInk(const AIPathStyle& style) {
+  return paintsStroke(style) && isInk(style.stroke.color);
 }
 
 bool hasInk(const AIPathStyle& style) {
-  return (paintsFill(style) && isInk(style.fill.color)) || (paintsStroke(style) && isInk(style.stroke.color));
+  return fillsWithInk(style) || strokesWithInk(style);
 }
 
 bool hasServer(const AIPathStyle& style) {
   return (paintsFill(style) && isServer(style.fill.color)) ||
          (paintsStroke(style) && isServer(style.stroke.color));
+}
+
+PdfRest restBesideInks(const AIPathStyle& style, bool marked) {
+  if (hasServer(style)) return fillsWithInk(style) ? PdfRest::Stroke : PdfRest::Fill;
+  return marked ? PdfRest::Markers : PdfRest::None;
 }
 
 }  // namespace
@@ -26,81 +36,110 @@ bool isInk(const AIColor& color) {
   return color.kind == kCustomColor || color.kind == kFourColor || color.kind == kGrayColor;
 }
 
-PdfPlan::PdfPlan(const SvgDrawing& drawing, const SvgEffects& effects)
-    : drawing_(drawing), effects_(effects), records_(drawing.document->artSlots() + 1) {
-  for (const LayerId id : drawing.document->state().layers) survey(drawing.document->layer(id)->root);
+bool isServer(const AIColor& color) {
+  return color.kind == kGradient || color.kind == kPattern;
 }
 
-// From the leaves up, without recursion: drawings nest as deep as their makers like.
-void PdfPlan::survey(ArtId top) {
+PdfPlan::PdfPlan(const SvgDrawing& drawing, const SvgEffects& effects, const PdfChoice& choice)
+    : drawing_(drawing), effects_(effects), choice_(choice), records_(drawing.document->artSlots() + 1) {
+  for (const LayerId id : drawing.document->state().layers) survey(id);
+}
+
+// From the leaves up and down again, without recursion: drawings nest as deep as their makers like.
+void PdfPlan::survey(LayerId layer) {
   const Document& document = *drawing_.document;
-  std::vector<ArtId> order{top};
+  std::vector<ArtId> order{document.layer(layer)->root};
   for (std::size_t i = 0; i < order.size(); ++i) {
     const Art& art = *document.art(order[i]);
     if (art.type != kGroupArt) continue;
     for (ArtId child = art.firstChild; child != 0; child = document.art(child)->below) order.push_back(child);
   }
-  for (std::size_t i = order.size(); i-- > 0;) {
-    const Art& art = *document.art(order[i]);
-    const SvgEffect& effect = effectOf(art);
-    Record& record = records_[order[i]];
-    record.element = elementOf(art);
-    if (art.type == kGroupArt) {
-      record.wantsPicture |= effect.actsOnWhole();
-    } else {
-      surveyLeaf(art, record);
-    }
-    if (record.hasInk && (effect.masked || effect.filtered))
-      record.loss = effect.masked ? "its mask" : "its filter";
-    if (order[i] == top) continue;
-    records_[art.parent].hasInk |= record.hasInk;
-    records_[art.parent].wantsPicture |= record.wantsPicture;
+  for (std::size_t i = order.size(); i-- > 0;) surveyArt(order[i], choice_.isOfMarks(layer));
+  for (const ArtId id : order) {
+    const Art& art = *document.art(id);
+    records_[id].opacity = effectOf(art).opacity * (art.parent == 0 ? 1 : opacityRound(id));
   }
+}
+
+void PdfPlan::surveyArt(ArtId id, bool isOfMarks) {
+  const Art& art = *drawing_.document->art(id);
+  const SvgEffect& effect = effectOf(art);
+  Record& record = records_[id];
+  record.element = elementOf(art);
+  record.isRead |= isOfMarks;
+  if (art.type == kGroupArt) record.wantsPicture |= effect.actsOnWhole();
+  if (art.style) surveyPath(art, effect, record);
+  if (art.body) surveyBody(*art.body, record);
+  if (record.hasInk && (effect.masked || effect.filtered))
+    record.loss = effect.masked ? "its mask" : "its filter";
+  if (art.type == kGroupArt) record.overlaps |= art.firstChild != art.lastChild;
+  decideFading(effect, record);
+  if (art.parent == 0) return;
+  Record& round = records_[art.parent];
+  round.hasInk |= record.hasInk;
+  round.isRead |= record.isRead;
+  round.wantsPicture |= record.wantsPicture;
+  round.overlaps |= record.overlaps;
+}
+
+void PdfPlan::decideFading(const SvgEffect& effect, Record& record) const {
+  if (effect.opacity >= 1 || !record.hasInk || !record.overlaps) return;
+  record.fadesAsOne = !record.isRead;
+  if (record.isRead && record.loss == nullptr) record.loss = "that it fades as one: its parts fade each";
 }
 
 // A layer's root group stands for the layer's element.
 NodeIndex PdfPlan::elementOf(const Art& art) const {
-  return art.rootOf != 0 ? drawing_.document->layer(art.rootOf)->source : art.source;
+  const Layer* layer = drawing_.document->layer(art.rootOf);
+  return layer != nullptr ? layer->source : art.source;
 }
 
 const SvgEffect& PdfPlan::effectOf(const Art& art) const {
   return effects_.of(elementOf(art));
 }
 
-void PdfPlan::surveyLeaf(const Art& art, Record& record) const {
-  const SvgEffect& effect = effectOf(art);
-  if (art.style) {
-    const bool bothFade = effect.opacity < 1 && paintsFill(*art.style) && paintsStroke(*art.style);
-    record.hasInk = hasInk(*art.style);
-    record.wantsPicture =
-        effect.masked || effect.filtered || effect.marked || bothFade || hasServer(*art.style);
-    if (record.hasInk && effect.marked) record.loss = "its markers";
-    if (record.hasInk && hasServer(*art.style)) record.loss = "its gradient or pattern";
-  }
-  if (!art.body) return;
-  const auto& parts = art.body->parts;
+void PdfPlan::surveyPath(const Art& art, const SvgEffect& effect, Record& record) const {
+  const AIPathStyle& style = *art.style;
+  const bool hasBoth = paintsFill(style) && paintsStroke(style);
+  record.hasInk = hasInk(style);
+  record.isRead |= (paintsFill(style) && choice_.isLine(style.fill.color)) ||
+                   (paintsStroke(style) && choice_.isLine(style.stroke.color));
+  record.wantsPicture = effect.masked || effect.filtered || effect.marked || hasServer(style) ||
+                        (effect.opacity < 1 && hasBoth);
+  if (record.hasInk && record.element != 0) record.rest = restBesideInks(style, effect.marked);
+  record.overlaps = hasBoth || record.rest != PdfRest::None;
+  if (effect.marked && record.rest == PdfRest::Fill) record.loss = "its markers";
+}
+
+void PdfPlan::surveyBody(const Body& body, Record& record) const {
+  const auto& parts = body.parts;
   // What stands for an image is gray.
   record.hasInk = std::any_of(parts.begin(), parts.end(), [](const Body::Part& part) {
     return hasInk(part.style) && part.style.fill.color.kind != kGrayColor;
   });
+  record.isRead |= std::any_of(parts.begin(), parts.end(), [&](const Body::Part& part) {
+    return choice_.isLine(part.style.fill.color) || choice_.isLine(part.style.stroke.color);
+  });
   record.wantsPicture = true;
+  record.overlaps = true;
   if (record.hasInk) record.loss = "that it was text or an instance: it is outlines now";
 }
 
-double PdfPlan::opacityOf(ArtId art) const {
-  double opacity = 1;
-  for (ArtId id = art; id != 0; id = drawing_.document->art(id)->parent) {
-    opacity *= effectOf(*drawing_.document->art(id)).opacity;
-  }
-  return opacity;
+bool PdfPlan::isFaded(ArtId art) const {
+  return effectOf(*drawing_.document->art(art)).opacity < 1;
+}
+
+double PdfPlan::opacityRound(ArtId art) const {
+  const ArtId parent = drawing_.document->art(art)->parent;
+  return parent == 0 || fadesAsOne(parent) ? 1 : opacityOf(parent);
 }
 
 double PdfPlan::fillOpacityOf(ArtId art) const {
-  return opacityOf(art) * effectOf(*drawing_.document->art(art)).fillOpacity;
+  return (fadesAsOne(art) ? 1 : opacityOf(art)) * effectOf(*drawing_.document->art(art)).fillOpacity;
 }
 
 double PdfPlan::strokeOpacityOf(ArtId art) const {
-  return opacityOf(art) * effectOf(*drawing_.document->art(art)).strokeOpacity;
+  return (fadesAsOne(art) ? 1 : opacityOf(art)) * effectOf(*drawing_.document->art(art)).strokeOpacity;
 }
 
 }  // namespace host

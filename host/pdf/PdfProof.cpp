@@ -6,6 +6,7 @@
 #include <set>
 
 #include "Geometry.h"
+#include "PdfChoice.h"
 #include "PdfLines.h"
 
 namespace host {
@@ -28,13 +29,11 @@ std::string wordsOn(const std::string& title, bool isVisible, bool isEditable, c
          (step.empty() ? "" : " " + step);
 }
 
-std::vector<std::string> layersMeant(const Document& document, const PdfOptions& options) {
+std::vector<std::string> layersMeant(const Document& document, const PdfChoice& choice) {
   std::vector<std::string> layers;
-  for (const LayerId id : document.state().layers) {
+  for (const LayerId id : choice.layers()) {
     const Layer& layer = *document.layer(id);
-    const auto step = options.steps.find(layer.title);
-    layers.push_back(wordsOn(layer.title, layer.visible, layer.editable,
-                             step == options.steps.end() ? std::string() : step->second));
+    layers.push_back(wordsOn(layer.title, layer.visible, layer.editable, choice.stepOf(id)));
   }
   return layers;
 }
@@ -73,6 +72,7 @@ std::vector<std::string> layersFound(QPDF& pdf) {
 std::string differenceOf(const PdfLine& meant, const PdfLine& found) {
   if (meant.layer != found.layer)
     return "lies on layer \"" + found.layer + "\", not on \"" + meant.layer + "\"";
+  if (meant.isFill != found.isFill) return meant.isFill ? "is not filled" : "has no stroke";
   if (meant.spot != found.spot) return "has the colour \"" + found.spot + "\", not \"" + meant.spot + "\"";
   if (meant.overprints != found.overprints) return meant.overprints ? "does not overprint" : "overprints";
   if (!isNear(meant.width, found.width)) return "has another width";
@@ -124,13 +124,15 @@ std::string proofOf(const std::string& bytes, const SvgDrawing& drawing, const P
   pdf.processMemoryFile("the PDF", bytes.data(), bytes.size());
   if (pdf.numWarnings() > 0) return "the PDF that was written is damaged";
   const Document& document = *drawing.document;
-  if (layersMeant(document, options) != layersFound(pdf)) return "the layers are not as in the drawing";
+  const PdfChoice choice(document, options);
+  if (layersMeant(document, choice) != layersFound(pdf)) return "the layers are not as in the drawing";
   std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(pdf).getAllPages();
   const auto& artboards = document.state().artboards;
   if (pages.size() != artboards.size()) return "there are not as many pages as artboards";
   for (std::size_t i = 0; i < pages.size(); ++i) {
     std::string difference = differenceOfSize(pages[i], document, artboards[i]);
-    if (difference.empty()) difference = differenceOf(drawing, linesMeant(drawing, i), linesFound(pages[i]));
+    if (difference.empty())
+      difference = differenceOf(drawing, linesMeant(drawing, choice, i), linesFound(pages[i]));
     if (!difference.empty()) return difference;
   }
   return {};

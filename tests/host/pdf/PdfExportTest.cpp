@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <regex>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "ScratchFolder.h"
 #include "SvgFallbackColour.h"
 #include "SvgHostText.h"
+#include "SvgPicture.h"
 
 namespace host {
 namespace {
@@ -223,13 +225,135 @@ TEST_F(PdfExportTest, TheProofNamesWhatDiffers) {
   }
 }
 
+// The same bytes, damaged behind their maker's back.
+TEST_F(PdfExportTest, TheProofSeesDamage) {
+  const std::string svg = drawing(
+      spot("Cut"),
+      layer(
+          "A",
+          line("Cut", "id=\"edge\" stroke-width=\"2.5\"") +
+              "<path id=\"area\" d=\"M1 1H9V9Z M3 3H5V5Z\" fill=\"#ff0000\" ch:fill=\"custom('Cut' 0)\"/>"));
+  const auto read = readSvg(svg, nullptr);
+  const std::string whole = write("whole.pdf", exported(svg).bytes);
+  ASSERT_EQ(said("qpdf --qdf --object-streams=disable " + whole + " " + scratch_.file("plain.pdf")), "");
+  const std::string plain = scratch_.read("plain.pdf");
+  struct Case {
+    std::string from, to, difference;
+  };
+  const Case cases[] = {{"2.5 w", "2.6 w", "\"edge\" has another width"},
+                        {"/Separation\n  /Cut", "/Separation\n  /Cat", "the colour \"Cat\", not \"Cut\""},
+                        {"/OP true", "/OP null", "\"edge\" does not overprint"},
+                        {"20 280 m", "20 281 m", "\"edge\" lies elsewhere"},
+                        {"1 299 m", "2 299 m", "\"area\" lies elsewhere"},
+                        {"h\nf\n", "h\nn\n", "\"area\" is missing"},
+                        {"/Name (A)", "/Name (B)", "the layers are not as"}};
+  for (const Case& row : cases) {
+    std::string bytes = plain;
+    const std::size_t at = bytes.find(row.from);
+    ASSERT_NE(at, std::string::npos) << row.from;
+    bytes.replace(at, row.from.size(), row.to);
+    EXPECT_THAT(proofOf(bytes, std::get<SvgDrawing>(read), {}), HasSubstr(row.difference)) << row.to;
+  }
+}
+
+TEST_F(PdfExportTest, PrintAndCutAreApartAndMarksInBoth) {
+  const std::string both =
+      "<rect width=\"9\" height=\"9\" fill=\"#00f\" stroke=\"#ff0000\" "
+      "ch:stroke=\"custom('Cut' 0)\"/>";
+  const std::string svg =
+      drawing(spot("Cut"), layer("Print", kPrint) + layer("Cut", line("Cut")) + layer("Mixed", both) +
+                               layer("Regmark", "<circle r=\"9\" fill=\"#000\" ch:fill=\"gray(1)\"/>"));
+  const std::pair<PdfPart, std::string> cases[] = {{PdfPart::Whole, "Regmark Mixed Cut Print, 2 cuts"},
+                                                   {PdfPart::Print, "Regmark Mixed Print, 0 cuts"},
+                                                   {PdfPart::Cut, "Regmark Mixed Cut, 2 cuts"}};
+  for (const auto& [part, outcome] : cases) {
+    PdfOptions options;
+    options.part = part;
+    options.steps["Regmark"] = "Structural/Cutting";
+    const std::string file = write("part.pdf", exported(svg, options).bytes);
+    std::string found;
+    for (const char* title : {"Regmark", "Mixed", "Cut", "Print"}) {
+      const std::string groups = said("qpdf --json=2 --json-key=qpdf " + file);
+      if (groups.find("\"/Name\": \"u:" + std::string(title)) != std::string::npos)
+        found += (found.empty() ? "" : " ") + std::string(title);
+      EXPECT_THAT(groups, testing::Not(HasSubstr("GTS_Metadata"))) << "marks must print";
+    }
+    found += ", " + std::to_string(strokes(said("mutool trace " + file)).size()) + " cuts";
+    EXPECT_EQ(found, outcome);
+  }
+}
+
+TEST_F(PdfExportTest, SpotNamesThatCannotBeAreRefused) {
+  const std::pair<std::string, std::string> cases[] = {
+      {spot("Cut") + spot("Cut", "cmyk(0 1 0 0)"),
+       "\"Cut\" is defined both as rgb(1 0 0) and as cmyk(0 1 0 0)"},
+      {spot("None"), "cannot be named \"None\""},
+      {spot("All"), "cannot be named \"All\""}};
+  for (const auto& [swatches, reason] : cases) {
+    const auto made = exportPdf(drawing(swatches, kPrint), nullptr, {});
+    ASSERT_TRUE(std::holds_alternative<std::string>(made)) << swatches;
+    EXPECT_THAT(std::get<std::string>(made), HasSubstr(reason));
+  }
+}
+
+// The share of pixels in which a page looks otherwise than on the canvas.
+double shareOfOtherPixels(const std::string& svg, const std::string& ppm) {
+  const auto read = readSvg(svg, nullptr);
+  const auto picture = SvgPicture::load(pictureSource(std::get<SvgDrawing>(read), svg, {}));
+  int width = 0, height = 0, begin = 0;
+  if (std::sscanf(ppm.c_str(), "P6 %d %d 255%n", &width, &height, &begin) != 2) return 1;
+  std::vector<std::uint8_t> canvas(static_cast<std::size_t>(width * height * 4));
+  const std::string reason =
+      std::get<SvgPicture>(picture).draw({canvas.data(), width, height, width * 4},
+                                         {0, 0, static_cast<double>(width), static_cast<double>(height)});
+  EXPECT_EQ(reason, "");
+  int others = 0;
+  for (int i = 0; i < width * height; ++i) {
+    bool differs = false;
+    for (int channel = 0; channel < 3; ++channel) {
+      const int a = static_cast<unsigned char>(ppm[static_cast<std::size_t>(begin + 1 + i * 3 + channel)]);
+      const int b = canvas[static_cast<std::size_t>(i * 4 + 2 - channel)];
+      differs |= std::abs(a - b) > 40;
+    }
+    others += differs ? 1 : 0;
+  }
+  return others / static_cast<double>(width * height);
+}
+
+constexpr char kFadingInks[] =
+    R"svg(<defs><linearGradient id="h"><stop stop-color="#0f0"/><stop offset="1" stop-color="#00f"/></linearGradient>
+<marker id="m" markerWidth="4" markerHeight="4" refX="2" refY="2"><circle cx="2" cy="2" r="2" fill="#00f"/></marker>
+</defs><g opacity="0.5"><rect x="10" y="10" width="80" height="80" fill="#ff0000" ch:fill="custom('Gold' 0)"/>
+<rect x="50" y="50" width="80" height="80" fill="#0a0"/><rect x="9" y="99" width="40" height="40" fill="url(#h)"/></g>
+<rect opacity="0.5" x="160" y="20" width="100" height="60" fill="#00f" stroke="#ff0000" stroke-width="20"
+ch:stroke="custom('Gold' 0)"/><g opacity="0.5"><rect opacity="0.7" x="160" y="120" width="100" height="60"
+fill="url(#h)" stroke="#ff0000" stroke-width="9" ch:stroke="custom('Gold' 0)"/></g><path d="M20 200H120V280"
+marker-start="url(#m)" marker-mid="url(#m)" fill="none" stroke="#ff0000" stroke-width="4"
+ch:stroke="custom('Gold' 0)"/>)svg";
+
+TEST_F(PdfExportTest, PagesLookLikeTheCanvas) {
+  const std::string inks =
+      drawing(spot("Gold") + spot("Cut"), layer("Inks", kFadingInks) + layer("Cut", line("Cut")));
+  EXPECT_TRUE(exported(inks).remarks.empty());
+  for (const std::string& svg : {inks, drawing({}, layer("Print", kPrint))}) {
+    const std::string file = write("look.pdf", exported(svg).bytes);
+    EXPECT_EQ(said("qpdf --check " + file + " >/dev/null"), "");
+    ASSERT_EQ(said("pdftoppm -r 72 -singlefile " + file + " " + scratch_.file("look")), "");
+    EXPECT_LT(shareOfOtherPixels(svg, scratch_.read("look.ppm")), 0.005);
+  }
+}
+
 TEST_F(PdfExportTest, WhatInksCostIsSaid) {
   const PdfFile file =
       exported(drawing(spot("Cut"), layer("Cut",
                                           "<text x=\"30\" y=\"50\" id=\"word\" fill=\"none\" "
                                           "stroke=\"#ff0000\" ch:stroke=\"custom('Cut' 0)\">"
                                           "Cut</text>")));
-  EXPECT_THAT(file.remarks, testing::Each(HasSubstr("\"word\" is painted with inks")));
+  EXPECT_THAT(file.remarks, testing::ElementsAre(HasSubstr("\"word\" is painted with inks")));
+  const PdfFile other = exported(drawing({},
+                                         "<text id=\"t\" font-family=\"'No Such', serif\">Cut</text>"
+                                         "<text font-family=\"DejaVu Sans\">here</text>"));
+  EXPECT_THAT(other.remarks, testing::ElementsAre(HasSubstr("\"t\" is set in the font \"No Such\"")));
 }
 
 }  // namespace

@@ -1,0 +1,115 @@
+#include "Bounds.h"
+#include "Geometry.h"
+#include "Paint.h"
+#include "PdfChoice.h"
+#include "PdfLines.h"
+#include "SvgDrawing.h"
+
+namespace host {
+namespace {
+
+class MeantLines {
+ public:
+  MeantLines(const SvgDrawing& drawing, const PdfChoice& choice, std::size_t artboard)
+      : document_(*drawing.document),
+        choice_(choice),
+        page_(document_.state().artboards[artboard].position) {}
+
+  std::vector<PdfLine> gather() {
+    const auto& layers = choice_.layers();
+    for (auto id = layers.rbegin(); id != layers.rend(); ++id) {
+      layer_ = *id;
+      visit(document_.layer(*id)->root);
+    }
+    return std::move(lines_);
+  }
+
+ private:
+  void visit(ArtId root) {
+    std::vector<ArtId> open{root};
+    while (!open.empty()) {
+      const ArtId id = open.back();
+      open.pop_back();
+      const Art& art = *document_.art(id);
+      if (art.hidden || art.guide) continue;
+      if (art.style) add(id, *art.style);
+      if (art.body) {
+        for (const Body::Part& part : art.body->parts) add(id, part.style, boundsOf(part.paths));
+      }
+      if (art.type != kGroupArt) continue;
+      for (ArtId child = art.firstChild; child != 0; child = document_.art(child)->below)
+        open.push_back(child);
+    }
+  }
+
+  static AIRealRect boundsOf(const std::vector<PathGeometry>& paths) {
+    AIRealRect box = kEmptyRect;
+    for (const PathGeometry& path : paths) box = unite(box, pathBounds(path));
+    return box;
+  }
+
+  AIRealRect outlineOf(const Art& art) const {
+    if (art.path) return pathBounds(*art.path);
+    AIRealRect box = kEmptyRect;
+    for (ArtId child = art.firstChild; child != 0; child = document_.art(child)->below) {
+      const Art& part = *document_.art(child);
+      if (!part.hidden && !part.guide && part.path) box = unite(box, pathBounds(*part.path));
+    }
+    return box;
+  }
+
+  const CustomColor* spotOf(const AIColor& color) const {
+    if (color.kind != kCustomColor) return nullptr;
+    const CustomColor* custom =
+        document_.customColor(idOfHandle(color.c.c.color, HandleKind::CustomColor, document_.serial()));
+    return custom != nullptr && (custom->definition.flag & kCustomSpotColor) != 0 ? custom : nullptr;
+  }
+
+  void add(ArtId id, const AIPathStyle& style) {
+    if (spotOf(style.fill.color) == nullptr && spotOf(style.stroke.color) == nullptr) return;
+    add(id, style, outlineOf(*document_.art(id)));
+  }
+
+  void add(ArtId id, const AIPathStyle& whole, const AIRealRect& box) {
+    const AIPathStyle style = choice_.taken(whole, layer_);
+    const CustomColor* const fill = paintsFill(style) ? spotOf(style.fill.color) : nullptr;
+    const CustomColor* const stroke = paintsStroke(style) ? spotOf(style.stroke.color) : nullptr;
+    if ((fill == nullptr && stroke == nullptr) || isEmpty(box) || !isOnPage(id)) return;
+    if (fill != nullptr) lines_.push_back(line(id, box, *fill, style.fill.overprint != 0));
+    if (stroke == nullptr) return;
+    lines_.push_back(line(id, box, *stroke, style.stroke.overprint != 0));
+    lines_.back().isFill = false;
+    lines_.back().width = style.stroke.width * document_.scale();
+  }
+
+  PdfLine line(ArtId id, const AIRealRect& box, const CustomColor& spot, bool overprints) const {
+    const double scale = document_.scale();
+    return {document_.layer(layer_)->title,
+            spot.name,
+            true,
+            overprints,
+            0,
+            {(box.left - page_.left) * scale, (box.top - page_.bottom) * scale,
+             (box.right - page_.left) * scale, (box.bottom - page_.bottom) * scale},
+            id};
+  }
+
+  bool isOnPage(ArtId id) const {
+    return document_.state().artboards.size() == 1 ||
+           !isEmpty(intersect(artBounds(document_, id, nullptr, 0), page_));
+  }
+
+  const Document& document_;
+  const PdfChoice& choice_;
+  const AIRealRect page_;
+  LayerId layer_ = 0;
+  std::vector<PdfLine> lines_;
+};
+
+}  // namespace
+
+std::vector<PdfLine> linesMeant(const SvgDrawing& drawing, const PdfChoice& choice, std::size_t artboard) {
+  return MeantLines(drawing, choice, artboard).gather();
+}
+
+}  // namespace host
