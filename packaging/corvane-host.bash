@@ -14,14 +14,14 @@ _corvane_host() {
     --plugin | --out-dir) _filedir -d; return ;;
     -o | --output) _filedir; return ;;
     --screenshot) _filedir png; return ;;
-    --size | --weight | --amount | --pref | --refuse | --refuse-nth) return ;;
+    --size | --weight | --amount | --step | --pref | --refuse | --refuse-nth) return ;;
   esac
   if [[ $cur == -* ]]; then
     local options="--plugin --language --theme --pref --refuse --refuse-nth --help --version"
     case $command in
       marks) options+=" --placement --shape --size --weight --amount --output --out-dir --json" ;;
-      export) options+=" --output" ;;
-      info) options+=" --json" ;;
+      export) options+=" --output --step --print-file --cut-file --summary" ;;
+      info) options+=" --json --check" ;;
       *) options+=" --screenshot" ;;
     esac
     COMPREPLY=($(compgen -W "$options" -- "$cur"))

@@ -96,12 +96,27 @@ void addExport(CLI::App& app, ExportArguments& arguments) {
   command->add_option("-o,--output", arguments.output, "FILE.pdf, FILE.png or FILE.svg")
       ->required()
       ->type_name("FILE");
+  command
+      ->add_option(
+          "--step", arguments.steps,
+          "Processing step of a line type's layer, such as \"Score=PartialCutting\" or \"Score=none\"")
+      ->type_name("NAME=TYPE")
+      ->allow_extra_args(false);
+  command->add_flag("--print-file", arguments.printFile,
+                    "Also write FILE-print.pdf: what is not painted in a line type, and the marks");
+  command->add_flag("--cut-file", arguments.cutFile,
+                    "Also write FILE-cut.pdf: what is painted in a line type, and the marks");
+  command->add_flag("--summary", arguments.summary,
+                    "Also write FILE.txt and FILE.json: artboards, line types with their lengths, marks");
 }
 
 void addInfo(CLI::App& app, InfoArguments& arguments) {
   CLI::App* command = app.add_subcommand("info", "Tell what a drawing holds and what was not understood");
   command->add_option("INPUT", arguments.input, "SVG drawing; - is standard input")->required();
   command->add_flag("--json", arguments.json, "As one JSON object");
+  command->add_flag(
+      "--check", arguments.check,
+      "Also tell what is likely to go wrong when it is printed and cut; exit code 3 if anything is");
 }
 
 // A word that names no file is taken for a command that was meant. A sentence; empty if all is well.

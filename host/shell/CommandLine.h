@@ -44,11 +44,16 @@ struct MarksArguments {
 struct ExportArguments {
   std::string input;
   std::string output;
+  std::vector<std::string> steps;  // NAME=TYPE
+  bool printFile = false;
+  bool cutFile = false;
+  bool summary = false;
 };
 
 struct InfoArguments {
   std::string input;
   bool json = false;
+  bool check = false;  // also what is likely to go wrong on the table
 };
 
 // Without a command the window opens.

@@ -124,6 +124,29 @@ Json remarksAsJson(const SvgDrawing& drawing) {
   return remarks;
 }
 
+Json findingsAsJson(const Document& document, const std::vector<Finding>& findings) {
+  Json items = Json::array();
+  for (const Finding& finding : findings) {
+    Json boxes = Json::array();
+    for (const ArtId art : finding.art) {
+      boxes.push_back(rectAsJson(artBounds(document, art, nullptr, kNoStrokeBounds), document.scale()));
+    }
+    items.push_back({{"kind", keyOf(finding.kind)},
+                     {"sentence", finding.sentence},
+                     {"place", finding.place},
+                     {"art", finding.art.size()},
+                     {"boxes", std::move(boxes)}});
+  }
+  return items;
+}
+
+std::string findingsAsText(const std::vector<Finding>& findings) {
+  if (findings.empty()) return "Preflight: no findings\n";
+  std::string text = "Preflight:\n";
+  for (const Finding& finding : findings) text += "  " + finding.sentence + "\n";
+  return text;
+}
+
 }  // namespace
 
 std::string remarkLine(const SvgRemark& remark) {
@@ -136,7 +159,8 @@ std::string shortNumber(double value) {
   return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
 }
 
-std::string reportAsJson(const SvgDrawing& drawing, const std::string& name) {
+std::string reportAsJson(const SvgDrawing& drawing, const std::string& name,
+                         const std::vector<Finding>* findings) {
   const Document& document = *drawing.document;
   const double scale = document.scale();
   Json json{{"file", name}, {"scale", scale}};
@@ -165,10 +189,12 @@ std::string reportAsJson(const SvgDrawing& drawing, const std::string& name) {
         {{"name", swatch.name}, {"group", groupName(document, swatch)}, {"kind", swatchKind(swatch.color)}});
   }
   json["not_understood"] = remarksAsJson(drawing);
+  if (findings != nullptr) json["findings"] = findingsAsJson(document, *findings);
   return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
-std::string reportAsText(const SvgDrawing& drawing, const std::string& name) {
+std::string reportAsText(const SvgDrawing& drawing, const std::string& name,
+                         const std::vector<Finding>* findings) {
   const Document& document = *drawing.document;
   const double scale = document.scale();
   std::string text = name + "\n";
@@ -199,6 +225,7 @@ std::string reportAsText(const SvgDrawing& drawing, const std::string& name) {
   for (const SvgRemark& remark : drawing.remarks) {
     text += "  " + remarkLine(remark) + "\n";
   }
+  if (findings != nullptr) text += findingsAsText(*findings);
   return text;
 }
 

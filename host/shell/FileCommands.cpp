@@ -14,6 +14,7 @@
 #include "Host.h"
 #include "MenuBar.h"
 #include "UnsavedQuestion.h"
+#include "WindowExport.h"
 #include "WindowParts.h"
 #include "Workspace.h"
 
@@ -148,16 +149,7 @@ void FileCommands::exportAs() {
   OpenDrawing* drawing = parts_.drawing();
   if (drawing == nullptr || !chooser_.toExport) return;
   const std::string output = chooser_.toExport(&parts_.window, proposedExport(*drawing));
-  if (output.empty()) return;
-  if (exportFormatOf(output) == nullptr) {
-    parts_.tell({"cannot tell what to write from the name " + output + "; name it " + exportEnds()});
-    return;
-  }
-  std::vector<std::string> toTell;
-  const std::string reason =
-      exportDrawing(drawing->drawing, drawing->shown->title, drawing->shown->file, output, toTell);
-  if (!reason.empty()) toTell.push_back(reason);
-  parts_.tell(toTell);
+  if (!output.empty()) exportFromWindow(parts_, output);
 }
 
 // Whatever happens to the process meanwhile, the work is on the disk.

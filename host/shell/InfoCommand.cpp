@@ -4,6 +4,7 @@
 #include "Complain.h"
 #include "DrawingFile.h"
 #include "DrawingReport.h"
+#include "Preflight.h"
 
 namespace host {
 
@@ -15,12 +16,17 @@ ExitCode runInfo(const InfoArguments& arguments) {
   }
   const SvgDrawing& drawing = std::get<SvgDrawing>(opened);
   const std::string name = shownName(arguments.input);
-  std::cout << (arguments.json ? reportAsJson(drawing, name) : reportAsText(drawing, name)) << std::flush;
+  std::vector<Finding> found;
+  if (arguments.check) found = preflight(*drawing.document);
+  const std::vector<Finding>* const findings = arguments.check ? &found : nullptr;
+  std::cout << (arguments.json ? reportAsJson(drawing, name, findings)
+                               : reportAsText(drawing, name, findings))
+            << std::flush;
   if (!std::cout) {
     complain("cannot write to standard output");
     return kExitCouldNot;
   }
-  return kExitDone;
+  return found.empty() ? kExitDone : kExitWithMessages;
 }
 
 }  // namespace host

@@ -25,7 +25,7 @@ PaintPreview::PaintPreview(const AIColor& before, const Document* document, Pain
 }
 
 PaintPreview::Part PaintPreview::addPart(const QString& name) {
-  const Part part{new PaintChip(kChip), new QLabel, name};
+  Part part{new PaintChip(kChip), new QLabel, name};
   part.words->setTextFormat(Qt::PlainText);
   part.words->setWordWrap(true);
   part.words->setFixedWidth(kChip.width());

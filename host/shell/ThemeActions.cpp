@@ -5,7 +5,7 @@
 
 namespace host {
 
-QList<QAction*> makeThemeActions(QObject& owner, std::function<void(Theme)> choose) {
+QList<QAction*> makeThemeActions(QObject& owner, const std::function<void(Theme)>& choose) {
   auto* group = new QActionGroup(&owner);
   const std::pair<const char*, Theme> themes[] = {{"&Light", Theme::Light}, {"&Dark", Theme::Dark}};
   for (const auto& [text, chosen] : themes) {

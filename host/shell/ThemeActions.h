@@ -12,6 +12,6 @@ class QObject;
 namespace host {
 
 // One for each theme; that of the present one is checked. Owned by `owner`.
-QList<QAction*> makeThemeActions(QObject& owner, std::function<void(Theme)> choose);
+QList<QAction*> makeThemeActions(QObject& owner, const std::function<void(Theme)>& choose);
 
 }  // namespace host

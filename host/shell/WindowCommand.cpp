@@ -74,7 +74,7 @@ class WindowRun {
   // environment's.
   std::string chooseLook() {
     const WindowSettings settings(host_.preferences());
-    const std::string language = common_.language.empty() ? settings.language() : common_.language;
+    std::string language = common_.language.empty() ? settings.language() : common_.language;
     if (!language.empty()) preferLanguage(language);
     speakPreferredLanguage(*QCoreApplication::instance());
     const bool isDark = common_.theme.empty() ? settings.theme() == Theme::Dark : common_.theme == "dark";

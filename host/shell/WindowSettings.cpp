@@ -16,6 +16,9 @@ constexpr char kLight[] = "light";
 constexpr char kLanguage[] = "Language";
 constexpr char kRulers[] = "Rulers";
 constexpr char kAutosaveSeconds[] = "AutosaveSeconds";
+constexpr char kExportPrint[] = "ExportPrintFile";
+constexpr char kExportCut[] = "ExportCutFile";
+constexpr char kExportSummary[] = "ExportSummary";
 constexpr char kMaximized[] = "Maximized";
 constexpr int kUsualAutosave = 30;
 constexpr int kLongestAutosave = 24 * 60 * 60;
@@ -55,6 +58,17 @@ void WindowSettings::setShowsRulers(bool shows) {
 int WindowSettings::autosaveSeconds() const {
   return std::clamp(preferences_.integer(kPrefix, kAutosaveSeconds).value_or(kUsualAutosave), 0,
                     kLongestAutosave);
+}
+
+ExportExtras WindowSettings::exportExtras() const {
+  const auto isOn = [this](const char* key) { return preferences_.boolean(kPrefix, key).value_or(false); };
+  return {isOn(kExportPrint), isOn(kExportCut), isOn(kExportSummary)};
+}
+
+void WindowSettings::setExportExtras(const ExportExtras& extras) {
+  preferences_.put(kPrefix, kExportPrint, extras.printFile);
+  preferences_.put(kPrefix, kExportCut, extras.cutFile);
+  preferences_.put(kPrefix, kExportSummary, extras.summary);
 }
 
 std::vector<std::string> WindowSettings::recentFiles() const {

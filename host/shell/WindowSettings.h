@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "DrawingExport.h"
 #include "Theme.h"
 
 namespace host {
@@ -24,6 +25,9 @@ class WindowSettings {
   bool showsRulers() const;
   void setShowsRulers(bool shows);
   int autosaveSeconds() const;  // 0: never
+
+  ExportExtras exportExtras() const;
+  void setExportExtras(const ExportExtras& extras);
 
   std::vector<std::string> recentFiles() const;  // absolute paths, the latest first
   void setRecentFiles(const std::vector<std::string>& files);

@@ -64,6 +64,8 @@ OpenDrawing& Workspace::add(SvgDrawing drawing, const std::string& title, const 
 
 std::string Workspace::save(OpenDrawing& drawing, const std::string& file) {
   const std::string target = absoluteName(file);
+  const OpenDrawing* const other = drawingOf(target);
+  if (other != nullptr && other != &drawing) return "cannot save " + target + ": it is open in another tab";
   if (std::string reason = saveBytes(target, writeSvg(drawing.drawing)); !reason.empty()) return reason;
   drawing.shown->file = target;
   drawing.shown->title = titleOf(target);

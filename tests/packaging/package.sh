@@ -18,14 +18,13 @@ appstreamcli validate --no-net "$root/usr/share/metainfo/org.corvane.Host.metain
 warnings=$(MANROFFSEQ='' man --warnings -l "$root/usr/share/man/man1/corvane-host.1.gz" 2>&1 >/dev/null)
 [ -z "$warnings" ] || fail "man page: $warnings"
 bash -n "$root/usr/share/bash-completion/completions/corvane-host"
-# The registration of shared libraries is cpack's own way.
-lintian --fail-on error,warning --suppress-tags maintscript-calls-ldconfig,initial-upload-closes-no-bugs \
-  --allow-root "$package"
+lintian --fail-on error,warning --suppress-tags initial-upload-closes-no-bugs --allow-root "$package"
 
 # Every option that the program knows is in the manual and is completed.
 host=$root/usr/bin/corvane-host
-for option in $("$host" marks --help | grep -oE -- '--[a-z-]+' | sort -u); do
-  zcat "$root/usr/share/man/man1/corvane-host.1.gz" | tr -d '\\' | grep -q -- "$option" || fail "manual lacks $option"
+manual=$(zcat "$root/usr/share/man/man1/corvane-host.1.gz" | tr -d '\\')
+for option in $(for command in marks export info; do "$host" $command --help; done | grep -oE -- '--[a-z-]+' | sort -u); do
+  grep -q -- "$option" <<<"$manual" || fail "manual lacks $option"
   grep -q -- "$option" "$root/usr/share/bash-completion/completions/corvane-host" || fail "completion lacks $option"
 done
 

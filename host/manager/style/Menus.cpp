@@ -68,8 +68,8 @@ void mark(const Paint& paint, const QStyleOptionMenuItem& item, const QRect& col
 void texts(const Paint& paint, const QStyleOptionMenuItem& item, const QRect& room) {
   const bool underline =
       paint.style.styleHint(QStyle::SH_UnderlineShortcut, &item, paint.widget, nullptr) != 0;
-  const int flags = Qt::AlignVCenter | Qt::AlignLeading | Qt::TextDontClip | Qt::TextSingleLine |
-                    (underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+  int flags = Qt::AlignVCenter | Qt::AlignLeading | Qt::TextDontClip | Qt::TextSingleLine;
+  flags |= static_cast<int>(underline ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
   const PainterState state(paint.painter);
   paint.painter.setLayoutDirection(item.direction);
   QFont font = item.font;

@@ -48,7 +48,7 @@ void ticks(const Paint& paint, const QStyleOptionSlider& slider, int handleLengt
   const double length = Measures(&slider, paint.widget).text() / 4.0;
   if (room <= 0 || (slider.maximum - slider.minimum) / step > room) return;
   for (qint64 value = slider.minimum; value <= slider.maximum; value += step) {
-    const double along =
+    const int along =
         handleLength / 2 + QStyle::sliderPositionFromValue(slider.minimum, slider.maximum,
                                                            static_cast<int>(value), room, slider.upsideDown);
     if ((slider.tickPosition & QSlider::TicksAbove) != 0) {

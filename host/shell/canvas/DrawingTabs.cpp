@@ -70,7 +70,12 @@ void DrawingTabs::turnTo(OpenDrawing& drawing) {
 
 void DrawingTabs::remove(const OpenDrawing& drawing) {
   const QSignalBlocker whileHalfGone(tabs_);
-  if (DrawingView* view = viewOf(*drawing.shown)) delete view->parentWidget();
+  DrawingView* const view = viewOf(*drawing.shown);
+  if (view == nullptr) return;
+  // The next one comes up while all are whole: a plug-in that hears of it may ask for any view.
+  const int index = tabs_->indexOf(view->parentWidget());
+  if (index == current()) tabs_->setCurrentIndex(index + 1 < drawings() ? index + 1 : index - 1);
+  delete view->parentWidget();
 }
 
 void DrawingTabs::chooseUnits(OpenDrawing& drawing, AIRulerUnits units) {

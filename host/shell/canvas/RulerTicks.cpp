@@ -66,6 +66,7 @@ std::vector<RulerTick> rulerTicks(const RulerSpan& span,
   const double low = std::floor(std::min(span.first, last) / step.size());
   const double high = std::ceil(std::max(span.first, last) / step.size());
   std::vector<RulerTick> ticks;
+  // Whole numbers, all exact. NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter)
   for (double count = low; count <= high; ++count) {
     for (int i = 0; i < parts; ++i) {
       const double at = (count * step.size() + i * part - span.first) / span.perPixel;

@@ -13,7 +13,8 @@ QString literal(const std::string& text) {
 
 }  // namespace
 
-QMenu* makeFlyoutPopup(const FlyoutMenu& menu, QWidget* parent, std::function<void(std::uint32_t)> choose) {
+QMenu* makeFlyoutPopup(const FlyoutMenu& menu, QWidget* parent,
+                       const std::function<void(std::uint32_t)>& choose) {
   auto* popup = new QMenu(parent);
   popup->setAttribute(Qt::WA_DeleteOnClose);
   for (const FlyoutMenu::Item& item : menu.items) {

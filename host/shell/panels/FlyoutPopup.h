@@ -11,6 +11,7 @@ class QWidget;
 namespace host {
 
 // Deletes itself when it has closed. `choose` gets the id of the item that the user has chosen.
-QMenu* makeFlyoutPopup(const FlyoutMenu& menu, QWidget* parent, std::function<void(std::uint32_t)> choose);
+QMenu* makeFlyoutPopup(const FlyoutMenu& menu, QWidget* parent,
+                       const std::function<void(std::uint32_t)>& choose);
 
 }  // namespace host

@@ -14,7 +14,7 @@ namespace {
 class HiddenPanelView : public PanelView {
  public:
   HiddenPanelView(Host& host, const PanelRecord& panel) : host_(host), panel_(panel), view_(new QWidget) {
-    setSize(panel.minimum);
+    HiddenPanelView::setSize(panel.minimum);
   }
   ~HiddenPanelView() override {
     if (panel_.callsUnderWay > 0 && view_ != nullptr) {

@@ -8,6 +8,7 @@
 #include "Host.h"
 #include "HostDock.h"
 #include "LayersPanel.h"
+#include "PreflightPanel.h"
 #include "SwatchesPanel.h"
 
 namespace host {
@@ -30,9 +31,9 @@ PanelDock::Face faceOf(const char* title) {
 }
 
 // The first time: beside the drawing, and the artboards, of which there is mostly one, out of the way.
-PanelPlace firstPlace(bool isCollapsed) {
+PanelPlace firstPlace(bool isCollapsed, bool isShown = true) {
   PanelPlace place;
-  place.isShown = true;
+  place.isShown = isShown;
   place.isCollapsed = isCollapsed;
   place.area = Qt::RightDockWidgetArea;
   place.width = kWidth;
@@ -48,6 +49,8 @@ HostPanels::HostPanels(QMainWindow& window, Host& host, Session& session, Comman
   add("Layers", firstPlace(false), std::make_unique<LayersPanel>(host, session, changed));
   add("Swatches", firstPlace(false), std::make_unique<SwatchesPanel>(host, session, changed));
   add("Artboards", firstPlace(true), std::make_unique<ArtboardsPanel>(host, session, changed, commands_.fit));
+  add("Preflight", firstPlace(false, false),
+      std::make_unique<PreflightPanel>(host, session, changed, commands_.fit));
 }
 
 HostPanels::~HostPanels() {

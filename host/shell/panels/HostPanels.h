@@ -1,4 +1,4 @@
-// The application's own panels in the window: layers, swatches and artboards.
+// The application's own panels in the window: layers, swatches, artboards and preflight.
 #pragma once
 
 #include <QList>

@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 
 #include "FailureSentence.h"
+#include "Host.h"
 
 namespace host {
 namespace {
@@ -24,10 +25,26 @@ bool isUsersDoing(const QEvent& event) {
   }
 }
 
+// Ends the contexts that plug-ins have left behind in an event: their steps would last for ever.
+class ContextsOfEvent {
+ public:
+  ContextsOfEvent() : host_(Host::current()), depth_(host_ == nullptr ? 0 : host_->contexts().depth()) {}
+  ContextsOfEvent(const ContextsOfEvent&) = delete;
+  ContextsOfEvent& operator=(const ContextsOfEvent&) = delete;
+  ~ContextsOfEvent() {
+    if (host_ != nullptr && host_ == Host::current()) host_->contexts().popTo(depth_);
+  }
+
+ private:
+  Host* host_;
+  std::size_t depth_;
+};
+
 }  // namespace
 
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
   const QScopedValueRollback<bool> turn(isUsersTurn_, isUsersDoing(*event));
+  const ContextsOfEvent contexts;
   try {
     return QApplication::notify(receiver, event);
   } catch (...) {

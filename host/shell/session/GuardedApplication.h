@@ -8,7 +8,7 @@
 namespace host {
 
 // An exception that comes out of a handler ends there, is reported to the user, and the event counts as
-// handled: the loop that delivered it never sees it.
+// handled: the loop that delivered it never sees it. Contexts that plug-ins leave behind end with the event.
 class GuardedApplication : public QApplication {
  public:
   using QApplication::QApplication;

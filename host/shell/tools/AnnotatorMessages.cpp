@@ -11,6 +11,7 @@ namespace {
 // An annotator may be registered while another draws: the registry is gone through by number.
 void sendToAll(Host& host, Session& session, const char* selector, const OpenDocument& open,
                AIAnnotatorDrawer* drawer) {
+  // NOLINTNEXTLINE(modernize-loop-convert)
   for (std::size_t i = 0; i < host.annotators().size(); ++i) {
     const AnnotatorRecord& annotator = host.annotators()[i];
     if (!annotator.active) continue;

@@ -1,9 +1,7 @@
 // The look of a field while it has the keyboard.
 #include <QDoubleSpinBox>
-#include <QIcon>
 #include <QLineEdit>
 #include <QTest>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "Application.h"
@@ -12,12 +10,6 @@
 namespace {
 
 using host::Theme;
-
-QIcon iconOf(const QColor& colour) {
-  QPixmap pixmap(8, 8);
-  pixmap.fill(colour);
-  return pixmap;
-}
 
 class ActiveFields : public WidgetTest {
  protected:
@@ -60,24 +52,6 @@ TEST_F(ActiveFields, AreLightAndGoBackUnlessTheyCantBeWrittenOrHaveAColourOfThei
   host::setTheme(Theme::Light);
   QTest::mouseClick(&other_, Qt::LeftButton);
   EXPECT_EQ(groundOf(edit_), host::themePalette(Theme::Light).color(QPalette::Base));
-}
-
-TEST_F(ActiveFields, SwapTheIconsOfPicturesInThem) {
-  QToolButton picture(&edit_);
-  picture.setIcon(iconOf(Qt::white));
-  picture.setProperty("_rvadm_activeinputicon", iconOf(Qt::black));
-  const auto shown = [&] { return picture.icon().pixmap(8, 8).toImage().pixelColor(4, 4); };
-  QTest::mouseClick(&edit_, Qt::LeftButton);
-  EXPECT_EQ(shown(), QColor(Qt::black));
-  // A picture that changes while its field is active stores what to go back to.
-  picture.setProperty("_rvadm_inactiveinputicon", iconOf(Qt::green));
-  QFocusEvent menuUp(QEvent::FocusOut, Qt::PopupFocusReason), menuGone(QEvent::FocusIn, Qt::PopupFocusReason);
-  QApplication::sendEvent(&edit_, &menuUp);
-  EXPECT_EQ(shown(), QColor(Qt::black));
-  QApplication::sendEvent(&edit_, &menuGone);
-  QTest::mouseClick(&other_, Qt::LeftButton);
-  EXPECT_EQ(shown(), QColor(Qt::green));
-  EXPECT_FALSE(picture.property("_rvadm_inactiveinputicon").isValid());
 }
 
 }  // namespace

@@ -45,14 +45,4 @@ TEST(BuiltinIcons, ComeInBothInksAndSizes) {
   EXPECT_NE(builtin(16041, 0), builtin(16055, 0));
 }
 
-TEST(BuiltinIcons, AreMissingWithoutHarm) {
-  char other = 'x';
-  for (const int id : {16000, 16042, 0, -1}) {
-    char* data = &other;
-    int variant = 3;
-    EXPECT_EQ(SharedResources::GetBuiltinResource(id, variant, data), 0) << id;
-    EXPECT_EQ(data, nullptr);
-  }
-}
-
 }  // namespace

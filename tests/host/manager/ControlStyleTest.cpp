@@ -113,13 +113,4 @@ TEST_F(ControlStyle, ScrollThumbStaysInItsBar) {
   }
 }
 
-TEST_F(ControlStyle, SurvivesBeingReplaced) {
-  QLineEdit edit;
-  edit.show();
-  QApplication::setStyle(QStringLiteral("Fusion"));
-  host::setTheme(Theme::Dark);
-  QPushButton button(QStringLiteral("OK"));
-  EXPECT_EQ(faceOf(button).name(), colour(QPalette::Button).name());
-}
-
 }  // namespace

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QLineEdit>
 #include <QTest>
 #include <QWindow>
 
@@ -37,27 +36,6 @@ TEST_F(NativeViews, ButtonsLeaveAShownWindowAsItStands) {
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_EQ(dialog.geometry(), before);
   EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
-}
-
-TEST_F(NativeViews, KeyboardGoesToTheViewsOfTheWindowThatTakeIt) {
-  QWidget window;
-  QLineEdit field(&window);
-  QWidget plain(&window);
-  QWidget stranger;
-  host::setHostWindow(&window);
-  window.show();
-  MakeKeyWindow(MainWindow());
-  const std::pair<QWidget*, bool> rows[] = {
-      {&field, true}, {&plain, false}, {&stranger, false}, {nullptr, false}};
-  for (const auto& [widget, takes] : rows) {
-    EXPECT_EQ(MakeFirstResponder(MainWindow(), NativeViewOf(widget)), takes);
-    EXPECT_EQ(window.focusWidget(), &field);
-  }
-  window.setFocusProxy(&plain);
-  plain.setFocusPolicy(Qt::StrongFocus);
-  EXPECT_TRUE(MakeFirstResponder(MainWindow(), NativeViewOf(&window)));
-  EXPECT_EQ(window.focusWidget(), &plain);
-  host::setHostWindow(nullptr);
 }
 
 TEST_F(NativeViews, SubviewsComeAndGoVisibleAndInPlace) {

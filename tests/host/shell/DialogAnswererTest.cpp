@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QKeyEvent>
@@ -106,23 +105,6 @@ TEST_F(DialogAnswererTest, OnlyADialogWithoutFieldsIsAMessage) {
   EXPECT_EQ(said().size(), 1U);
 }
 
-TEST_F(DialogAnswererTest, DialogsOverDialogsAreAnsweredFirst) {
-  std::vector<int> order;
-  PlainDialog outer;
-  outer.withButton(true, [&] {
-    PlainDialog inner;
-    inner.withButton(true, [&] {
-      order.push_back(1);
-      inner.accept();
-    });
-    inner.exec();
-    order.push_back(2);
-    outer.accept();
-  });
-  EXPECT_EQ(outer.exec(), QDialog::Accepted);
-  EXPECT_EQ(order, (std::vector<int>{1, 2}));
-}
-
 TEST_F(DialogAnswererTest, ADialogThatStaysIsCancelledInTheEnd) {
   int answers = 0, refusals = 0;
   PlainDialog open("Stubborn");
@@ -135,19 +117,6 @@ TEST_F(DialogAnswererTest, ADialogThatStaysIsCancelledInTheEnd) {
   const std::string sentence =
       "!The dialog \"Stubborn\" stayed open when it was answered, and was cancelled.";
   EXPECT_EQ(said(), (std::vector<std::string>{"Stubborn", sentence, "Stubborn", sentence}));
-}
-
-TEST_F(DialogAnswererTest, WhatIsNotModalOrComesLaterIsLeftAlone) {
-  PlainDialog modeless("Palette");
-  modeless.withButton(true, [&] { modeless.close(); });
-  modeless.show();
-  answerer.reset();
-  PlainDialog later;
-  later.setModal(true);
-  later.show();
-  QApplication::processEvents();
-  EXPECT_TRUE(modeless.isVisible() && later.isVisible());
-  EXPECT_TRUE(said().empty());
 }
 
 }  // namespace

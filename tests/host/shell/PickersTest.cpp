@@ -165,20 +165,6 @@ TEST_F(PickersTest, ThePaintIsWhatTheUserMadeOfIt) {
   }
 }
 
-TEST_F(PickersTest, ADoubleClickTakesTheSwatch) {
-  const auto picked = pick(kThirds, [](PaintPicker& picker) {
-    turnTo(picker, 0);
-    QListWidget& list = listOf(picker);
-    click(picker, "Line types");
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middleOf(list, "Line types"));
-    EXPECT_TRUE(picker.isVisible()) << "a heading is no swatch";
-    click(picker, "Cut");
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middleOf(list, "Cut"));
-  });
-  ASSERT_TRUE(picked);
-  EXPECT_TRUE(isSamePaint(*picked, cut));
-}
-
 TEST_F(PickersTest, SwatchesStandUnderTheirGroupsFromTheGivenOneOn) {
   for (int i = 0; i < 50; ++i) document->addSwatch(0, paintOf(kGrayColor, {1}), "Spare");
   pick(

@@ -132,28 +132,5 @@ TEST(Ruler, OffersUnitsAndGoesAway) {
   EXPECT_EQ(canvas.chosen[0], kInchRuler);
 }
 
-TEST(Ruler, MarksThePointer) {
-  OpenCanvas canvas("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"50mm\" height=\"50mm\"/>");
-  canvas.frame->showRulers(true);
-  QCoreApplication::processEvents();
-  const QImage without = canvas.frame->grab().toImage();
-  QMouseEvent move(QEvent::MouseMove, QPoint(77, 31), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-  QApplication::sendEvent(&canvas.view(), &move);
-  const QImage with = canvas.frame->grab().toImage();
-  QRect top, left;
-  const int thickness = Ruler::thickness();
-  for (int y = 0; y < with.height(); ++y) {
-    for (int x = 0; x < with.width(); ++x) {
-      if (with.pixel(x, y) == without.pixel(x, y)) continue;
-      (y < thickness ? top : left) |= QRect(x, y, 1, 1);
-    }
-  }
-  EXPECT_TRUE(top == QRect(thickness + 77, 0, 1, thickness));
-  EXPECT_TRUE(left == QRect(0, thickness + 31, thickness, 1));
-  QEvent leave(QEvent::Leave);
-  QApplication::sendEvent(&canvas.view(), &leave);
-  EXPECT_TRUE(canvas.frame->grab().toImage() == without);
-}
-
 }  // namespace
 }  // namespace host
