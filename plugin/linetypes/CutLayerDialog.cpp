@@ -153,8 +153,9 @@ void CutLayerDialog::OnRowsSelected() {
 void CutLayerDialog::ConvertToCurrentRow() {
   const CutLayerEntry* entry = CurrentEntry();
   if (entry == nullptr) return;
-  LineType type = entry->GetLineType();
-  ReturnedCode([&type] {
+  LineType type;
+  ReturnedCode([&type, entry] {
+    type = entry->GetLineType();
     EnsureLineTypeSwatch(type, kSwatchGroup);
     return kNoErr;
   });

@@ -43,6 +43,12 @@ void SayWhatItDoes(RVADM_PicturePushButton& button, const char* text) {
   button.setAccessibleName(QString::fromUtf8(Localize(text)));
 }
 
+std::vector<std::string> NamesOf(const std::vector<LineType>& types) {
+  std::vector<std::string> names;
+  for (const LineType& type : types) names.push_back(type.name.as_UTF8());
+  return names;
+}
+
 // The texts of a definition file's faults have nothing to fill in.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wformat-security"
@@ -172,18 +178,19 @@ const std::vector<LineType>* CutPreferencesDialog::TypesOf(const std::string& na
   return group == groups.end() ? nullptr : &group->types;
 }
 
+// The names come first: where the host refuses one, the rows stay those of the group on show.
 void CutPreferencesDialog::FillRows(const std::string& name) {
   const std::vector<LineType>* const types = TypesOf(name);
   if (types == nullptr) return;
+  const std::vector<std::string> names = NamesOf(*types);
   const std::set<std::string> shown(shownNames[name].begin(), shownNames[name].end());
   deleteButton->SetEnabled(!types->empty());
   while (typeEntries.size() < types->size()) typeEntries.push_back(new TypeLayerEntry(typeList, this));
   for (std::size_t i = 0; i < typeEntries.size(); ++i) {
     const bool isUsed = i < types->size();
-    const std::string type = isUsed ? (*types)[i].name.as_UTF8() : std::string();
     typeEntries[i]->setHidden(!isUsed);
-    typeEntries[i]->SetChecked(isUsed && shown.count(type) > 0);
-    if (isUsed) typeEntries[i]->SetText(type.c_str(), name == kStandardGroup);
+    typeEntries[i]->SetChecked(isUsed && shown.count(names[i]) > 0);
+    if (isUsed) typeEntries[i]->SetText(names[i].c_str(), name == kStandardGroup);
   }
   currentGroup = name;
 }
@@ -210,11 +217,12 @@ void CutPreferencesDialog::NewLineType() {
   LineType type;
   const CutNewLineTypeDialog dialog(&type, std::bind(&CutPreferencesDialog::LineTypeNameExists, this, _1));
   if (type.name.empty()) return;
+  const std::string name = type.name.as_UTF8();
   const std::size_t row = customGroup.types.size();
-  if (typeEntries.size() <= row) typeEntries.push_back(new TypeLayerEntry(typeList, this));
-  typeEntries[row]->SetText(type.name.as_UTF8().c_str(), false);
-  typeEntries[row]->SetChecked(true);
   customGroup.types.push_back(std::move(type));
+  if (typeEntries.size() <= row) typeEntries.push_back(new TypeLayerEntry(typeList, this));
+  typeEntries[row]->SetText(name.c_str(), false);
+  typeEntries[row]->SetChecked(true);
   ShowGroup(kCustomGroup);
 }
 
@@ -243,13 +251,15 @@ std::string CutPreferencesDialog::NameToDelete() const {
 void CutPreferencesDialog::DeleteLineType() {
   if (customGroup.types.empty()) return;
   const std::string name = NameToDelete();
+  const std::vector<std::string> names = NamesOf(customGroup.types);  // all, before any line type goes
   StoreTicks();
   std::vector<std::string>& shown = shownNames[kCustomGroup];
   shown.erase(std::remove(shown.begin(), shown.end(), name), shown.end());
-  std::vector<LineType>& types = customGroup.types;
-  types.erase(std::remove_if(types.begin(), types.end(),
-                             [&name](const LineType& type) { return type.name.as_UTF8() == name; }),
-              types.end());
+  std::vector<LineType> kept;
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (names[i] != name) kept.push_back(std::move(customGroup.types[i]));
+  }
+  customGroup.types = std::move(kept);
   FillRows(kCustomGroup);
 }
 

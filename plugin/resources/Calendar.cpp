@@ -22,13 +22,15 @@ std::int64_t FloorQuarter(std::int64_t value) {
 int WeekDay(int day, int month, int year) {
   const int yearOfCentury = year % 100;
   const int years = yearOfCentury + (year / 100 == 20 ? 61 : -39);  // since 1939, which began on a Sunday
-  const std::int64_t days = DayOfYear(day, month, yearOfCentury) + 365 * years + FloorQuarter(years + 2) + 5;
+  const std::int64_t days =
+      DayOfYear(day, month, yearOfCentury) + std::int64_t{365} * years + FloorQuarter(years + 2) + 5;
   return static_cast<int>((days % 7 + 7) % 7) + 1;
 }
 
 int WeekOfYear(int day, int month, int year) {
   const int yearOfCentury = year % 100;
-  const std::int64_t start = (365 * yearOfCentury + FloorQuarter(yearOfCentury - 37) - 14229) % 7;
+  const std::int64_t start =
+      (std::int64_t{365} * yearOfCentury + FloorQuarter(yearOfCentury - 37) - 14229) % 7;
   const std::int64_t shift = start < 4 ? start + 6 : start - 1;
   return static_cast<int>((DayOfYear(day, month, yearOfCentury) + shift) / 7);
 }

@@ -25,7 +25,7 @@ QIcon LightIcon(int id, int selectedId) {
 
 QIcon IconInField(QWidget& picture, const QIcon& icon, int id, int selectedId) {
   if (qobject_cast<QLineEdit*>(picture.parent()) == nullptr) return icon;
-  const QIcon light = LightIcon(id, selectedId);
+  QIcon light = LightIcon(id, selectedId);
   picture.setProperty(kActiveInputIconProperty, light.isNull() ? QVariant() : QVariant(light));
   if (picture.property(kInactiveInputIconProperty).userType() != QMetaType::QIcon) return icon;
   picture.setProperty(kInactiveInputIconProperty, icon);

@@ -63,7 +63,7 @@ RVADM_ComboEntry* RVADM_DropDownList::GetActiveEntry() {
 }
 
 void RVADM_DropDownList::Clear() {
-  while (RVADM_ComboEntry* entry = GetEntry(0)) delete entry;
+  while (RVADM_ComboEntry* entry = RVADM_DropDownList::GetEntry(0)) delete entry;
 }
 
 // --- size ---

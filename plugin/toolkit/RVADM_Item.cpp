@@ -138,6 +138,7 @@ void RVADM_Item::Invalidate() {
   if (widget != nullptr) widget->update();
 }
 
+// Those that override it keep the tracker. NOLINTNEXTLINE(performance-unnecessary-value-param)
 bool RVADM_Item::Track(ADMTracker) {
   return true;
 }
