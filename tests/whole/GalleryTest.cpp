@@ -146,18 +146,6 @@ TEST_F(GalleryTest, ThePaletteLivesThroughEveryFault) {
   }
 }
 
-TEST_F(GalleryTest, LayoutsComeToRestThatResizeForever) {
-  visitDialog([](QWidget& dialog) {
-    QTest::mouseClick(buttonIn(dialog, "Resize Forever"), Qt::LeftButton);
-    const auto isAtRest = [&dialog] {
-      const QSize before = dialog.size();
-      QTest::qWait(30);
-      return dialog.size() == before;
-    };
-    EXPECT_TRUE(QTest::qWaitFor(isAtRest, 3000));
-  });
-}
-
 TEST_F(GalleryTest, UsersReachEveryKindOfItem) {
   const auto dismissed = visitDialog([](QWidget& dialog) {
     const auto isNamed = [&](const char* text) {
@@ -186,28 +174,6 @@ TEST_F(GalleryTest, FollowsTheThemeAndHasItsOwnTextsBesideAnotherPlugin) {
   EXPECT_EQ(shown.grab().toImage(), light);
   EXPECT_THAT(world.menuTree(), HasSubstr("Gallery Palette [x]"));
   EXPECT_THAT(world.menuTree(), HasSubstr(world.textOf(kMarksKey)));
-}
-
-TEST(GalleryCommand, ScreenshotsShowBothFrames) {
-  const ScratchFolder scratch;
-  QSize plain;
-  for (const char* show : {"", "palette", "modal", "both"}) {
-    const std::string file = scratch.file("shot.png");
-    const ProcessResult run = runHost({"--plugin", kGallery, "--pref", std::string("Gallery/Show=") + show,
-                                       "--screenshot", file, "--language", "de"},
-                                      {}, "QT_QPA_PLATFORM=offscreen");
-    EXPECT_EQ(run.code, 0) << show << run.err;
-    EXPECT_THAT(run.err, testing::Not(HasSubstr("corvane-host"))) << show;
-    const QImage image(QString::fromStdString(file));
-    ASSERT_FALSE(image.isNull()) << show;
-    if (plain.isEmpty()) plain = image.size();
-    std::set<QRgb> colours;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) colours.insert(image.pixel(x, y));
-    }
-    const bool hasPatch = colours.count(qRgb(0x20, 0xa0, 0x60)) != 0;
-    EXPECT_EQ(hasPatch, *show != '\0') << "the colour of the patch: " << show;
-  }
 }
 
 }  // namespace

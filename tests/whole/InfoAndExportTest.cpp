@@ -43,22 +43,6 @@ TEST(Info, ListsWhatWasNotUnderstoodWithElementIdAndReason) {
   EXPECT_EQ(info["art"]["path"], 1) << "drawn up to the fault";
 }
 
-TEST(Export, WritesAPictureOfTheWholeDrawing) {
-  const ScratchFolder scratch;
-  const ProcessResult run =
-      runHost({"export", kExamples + "/two-cards-a4.svg", "-o", scratch.file("two.png")});
-  ASSERT_EQ(run.code, 0) << run.err;
-  const std::string png = readText(scratch.file("two.png"));
-  ASSERT_EQ(png.substr(0, 8), "\x89PNG\r\n\x1a\n");
-  const auto number = [&](std::size_t at) {
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < 4; ++i) value = value * 256 + static_cast<unsigned char>(png[at + i]);
-    return value;
-  };
-  EXPECT_EQ(number(16), 2539U) << "430 mm at 150 pixels an inch";
-  EXPECT_EQ(number(20), 1754U) << "297 mm";
-}
-
 // One page that is a part of what the root element shows: it alone is the picture, in its own size.
 TEST(Export, APageIsShownWhereverItLies) {
   const ScratchFolder scratch;

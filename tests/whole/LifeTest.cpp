@@ -36,27 +36,6 @@ TEST(Life, MessagesComeInTheOrderOfAnApplication) {
             "SP Interface | Shutdown\n");
 }
 
-std::vector<std::string> notifierNames(Host& host) {
-  std::vector<std::string> names;
-  for (const NotifierRecord& notifier : host.notifiers()) names.push_back(notifier.name);
-  return names;
-}
-
-TEST(Life, NotifiersAreRegisteredAsThePluginComesUp) {
-  ensureApplication();
-  Host host;
-  Session session(host);
-  ASSERT_EQ(session.loadPlugin(corvaneBundle()), "");
-  EXPECT_THAT(notifierNames(host),
-              ElementsAre("AIPlugWrap Plugin Startup Notifier", "AIPlugWrap Plugin Shutdown Notifier",
-                          "AIPlugWrap Plugin Save Data Notifier"));
-  session.start();
-  EXPECT_THAT(notifierNames(host),
-              ElementsAre("AIPlugWrap Plugin Startup Notifier", "AIPlugWrap Plugin Shutdown Notifier",
-                          "AIPlugWrap Plugin Save Data Notifier", "AI Document Changed Notifier",
-                          "AI Art Properties Changed Notifier", "UI Color Scheme Notifier"));
-}
-
 TEST(Life, TheStoredToolBringsADeferredActionThatRunsOnce) {
   ensureApplication();
   for (const std::int32_t stored : {0, 1}) {
@@ -74,47 +53,6 @@ TEST(Life, TheStoredToolBringsADeferredActionThatRunsOnce) {
   }
 }
 
-TEST(Life, MenuTreeStandsWithItsKeysGroupsAndOptions) {
-  World world;
-  ASSERT_EQ(world.complaint, "");
-  struct Row {
-    const char* key;
-    const char* group;
-    bool wantsUpdate;
-    std::int32_t needsState;
-  };
-  const std::vector<Row> expected{{"Vandrell", "Tool Palettes", false, 0},
-                                  {"corvane ", "Vandrell", false, 0},
-                                  {"Vandrell ", "Preferences", false, 0},
-                                  {"Create Line Type Layers", "corvane ", true, 0},
-                                  {"Add brevia Register Marks...", "corvane ", false, kIfOpenDocument},
-                                  {"corvane Preferences...", "Vandrell ", false, 0},
-                                  {"Vandrell  ", "Help Menu", false, 0},
-                                  {"Legal Notices...", "VandrellHelpCustom", false, 0}};
-  std::size_t row = 0;
-  for (const MenuItem& item : world.host.menus().items()) {
-    if (item.plugin == nullptr) continue;
-    ASSERT_LT(row, expected.size());
-    EXPECT_EQ(item.key, expected[row].key);
-    EXPECT_EQ(item.text, std::string(expected[row].key).substr(0, item.text.size())) << "but for blanks";
-    EXPECT_EQ(world.host.menus().groups().find(item.group)->name, expected[row].group) << item.key;
-    EXPECT_EQ(item.wantsUpdate, expected[row].wantsUpdate) << item.key;
-    EXPECT_EQ(item.needsState, expected[row].needsState) << item.key;
-    ++row;
-  }
-  EXPECT_EQ(row, expected.size());
-}
-
-TEST(Life, EveryMenuItemAnswersZeroWithAndWithoutADocument) {
-  World world;
-  for (const char* key : {"Create Line Type Layers", "corvane Preferences...", "Legal Notices..."}) {
-    EXPECT_EQ(world.session.chooseMenuItem(key), kSPNoError) << key;
-  }
-  EXPECT_FALSE(world.session.chooseMenuItem(kMarksKey).has_value()) << "disabled without a document";
-  world.open(squareOnPage());
-  EXPECT_EQ(world.session.chooseMenuItem(kMarksKey), kSPNoError);
-}
-
 TEST(Life, OptionKeyKeepsThePluginOut) {
   setKeyModifierSource([]() -> std::uint32_t { return kOptionKeyModifier; });
   Host host;
@@ -123,31 +61,6 @@ TEST(Life, OptionKeyKeepsThePluginOut) {
   setKeyModifierSource(nullptr);
   EXPECT_THAT(complaint, testing::EndsWith("did not start: it answered -1"));
   for (const MenuItem& item : host.menus().items()) EXPECT_EQ(item.plugin, nullptr) << item.key;
-}
-
-TEST(Life, MessagesThatAreNobodysAnswerZero) {
-  World world;
-  SPPluginRef plugin = world.host.plugins()[0].handle;
-  const auto send = [&](const char* caller, const char* selector) {
-    AIMenuMessage message{};  // with a handle of null
-    return world.session.send(plugin, caller, selector, message.d);
-  };
-  for (const char* caller : {"AI Menu", "AI Notifier", "AI Timer", "AI Tool", "AI Annotation", "Nobody"}) {
-    EXPECT_EQ(send(caller, "AI Go"), kSPNoError) << caller;
-  }
-  EXPECT_EQ(send("SP Interface", "Startup"), kSPNoError) << "a second startup matches nothing";
-}
-
-TEST(Life, ManyLivesInOneProcessLeaveNothingHeldTwice) {
-  std::int32_t holds = 0;
-  for (int life = 0; life < 20; ++life) {
-    World world(squareOnPage());
-    ASSERT_EQ(world.complaint, "");
-    EXPECT_EQ(world.session.chooseMenuItem(kMarksKey), kSPNoError);
-    world.session.shutdown();
-    if (life < 2) holds = world.host.holds();  // one suite is acquired once a process, in the first life
-    EXPECT_EQ(world.host.holds(), holds);
-  }
 }
 
 TEST(Life, LoadFailuresNameFileAndReason) {

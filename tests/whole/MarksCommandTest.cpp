@@ -73,23 +73,6 @@ TEST(MarksCommand, CornerMarksStandWhereTheRulesPutThem) {
   }
 }
 
-// The dialog of the command decides what the options come to.
-TEST(MarksCommand, ADiscHasNoStrokeAndACrossHasBars) {
-  const ScratchFolder scratch;
-  const std::string input = scratch.write("in.svg", rectangleOnPage(100, 100, 400, 500));
-  const struct { const char *shape, *weight; } table[] = {{"round", "3pt"}, {"cross", "2pt"}, {"cross", "0"}};
-  for (const auto& row : table) {
-    SCOPED_TRACE(std::string(row.shape) + " " + row.weight);
-    const ProcessResult run = runHost({"marks", input, "-o", scratch.file("out.svg"), "--shape", row.shape,
-                                       "--size", "10pt", "--weight", row.weight, "--json"});
-    EXPECT_EQ(run.code, 0) << run.err;
-    expectNear(centres(run), {{90 + 283.46, 90}, {90, 510}, {410, 510}, {410, 90}, {90, 90}});
-    const std::string marked = readText(scratch.file("out.svg"));
-    EXPECT_THAT(marked, HasSubstr("ch:fill=\"cmyk(0 0 0 1)\""));
-    EXPECT_THAT(marked, Not(HasSubstr("ch:stroke=")));
-  }
-}
-
 TEST(MarksCommand, ARunStoresNothing) {
   const ScratchFolder scratch;
   const std::string command = "XDG_CONFIG_HOME=" + quoted(scratch.file("config")) + " " + CORVANE_BIN +
@@ -98,38 +81,6 @@ TEST(MarksCommand, ARunStoresNothing) {
   EXPECT_EQ(std::system(command.c_str()), 0);
   EXPECT_TRUE(scratch.has("out.svg"));
   EXPECT_FALSE(scratch.has("config"));
-}
-
-TEST(MarksCommand, ADrawingIsMarkedTheSameAloneAndAmongOthers) {
-  const ScratchFolder scratch;
-  std::filesystem::create_directory(scratch.file("out"));
-  const std::string sheet = kExamples + "/sticker-sheet.svg";
-  const std::vector<std::string> options{"--placement", "auto", "--amount", "0.37"};
-  std::vector<std::string> alone{"marks", sheet, "-o", scratch.file("alone.svg")};
-  std::vector<std::string> among{"marks", kExamples + "/two-cards-a4.svg", sheet, "--out-dir",
-                                 scratch.file("out")};
-  alone.insert(alone.end(), options.begin(), options.end());
-  among.insert(among.end(), options.begin(), options.end());
-  runHost(alone);
-  runHost(among);
-  EXPECT_TRUE(readText(scratch.file("out/sticker-sheet.svg")) == readText(scratch.file("alone.svg")));
-}
-
-TEST(MarksCommand, EdgeRingLiesInTwoStaggeredRings) {
-  const ScratchFolder scratch;
-  const std::string empty =
-      "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"841.89pt\" height=\"595.28pt\" "
-      "viewBox=\"0 0 841.89 595.28\"><rect x=\"400\" y=\"280\" width=\"40\" height=\"30\"/></svg>";
-  const ProcessResult run = runHost({"marks", scratch.write("in.svg", empty), "-o", scratch.file("out.svg"),
-                                     "--placement", "edge", "--size", "6mm", "--weight", "0", "--json"});
-  EXPECT_EQ(run.code, 0) << run.err;
-  const auto list = centres(run);
-  const double e = 28.34645669291339, f = 113.38582677165356, left = e, right = 841.89 - e;
-  const double dx = (right - left) / 3;
-  ASSERT_EQ(list.size(), 2U + 2 + 3 + 2 + 4 + 2 + 3 + 2);
-  expectNear({list[0], list[1]}, {{left, e}, {left + 2 * dx, e}});
-  expectNear({list[9], list[10], list[11], list[12]},
-             {{left + dx / 2, f}, {left + dx, f}, {left + 1.5 * dx, f}, {left + 2.5 * dx, f}});
 }
 
 TEST(MarksCommand, EveryOtherByteOfADrawingStaysAsItWas) {

@@ -104,16 +104,7 @@ class MarksDialogTest : public WindowTest {
     ASSERT_TRUE(answer.seen());
     EXPECT_EQ(answer.seen()->title, "brevia Register Marks");
   }
-  // Of the topmost layer, which is that of the marks when there are any.
-  std::vector<const Art*> marks() {
-    std::vector<const Art*> found;
-    const Document& document = world.document();
-    const Layer& layer = *document.layer(document.state().layers.front());
-    for (ArtId art = document.art(layer.root)->lastChild; art != 0; art = document.art(art)->above) {
-      found.push_back(document.art(art));
-    }
-    return layer.title == "Regmark" ? found : std::vector<const Art*>();
-  }
+  std::vector<ArtId> marks() { return artOn(world.document(), "Regmark"); }
   std::int32_t stored(const char* key) { return preferences.integer("Corvane", key).value_or(-1); }
   double storedReal(const char* key) { return preferences.real("Corvane", key).value_or(-1); }
 
@@ -168,7 +159,7 @@ TEST_F(MarksDialogTest, ShapeColoursAndWeightFollowOneAnother) {
     });
     EXPECT_EQ(shown, row.weightShown);
     ASSERT_EQ(marks().size(), 5U);
-    EXPECT_EQ(look(*marks()[0]), row.marks);
+    EXPECT_EQ(look(*world.document().art(marks()[0])), row.marks);
   }
 }
 
@@ -232,21 +223,6 @@ TEST_F(MarksDialogTest, ChoicesAreStoredAndComeBackButForThePaints) {
     EXPECT_FALSE(d.slider().isEnabled());
   });
   EXPECT_EQ(stored("Action"), 1);
-}
-
-TEST_F(MarksDialogTest, AnActionWithoutARadioStaysUnlessAnotherIsTaken) {
-  preferences.put("Corvane", "Action", std::int32_t{4});
-  const auto nothing = [](MarksDialog& d) { EXPECT_EQ(d.chosenRadio(), "none"); };
-  run(nothing);
-  EXPECT_EQ(stored("Action"), 4);
-  EXPECT_GT(marks().size(), 5U) << "the rings along the edges";
-  run([&](MarksDialog& d) {
-    nothing(d);
-    QTest::mouseClick(&d.radio("Corner Marks"), Qt::LeftButton);
-    EXPECT_EQ(d.chosenRadio(), "Corner Marks");
-  });
-  EXPECT_EQ(stored("Action"), 2);
-  EXPECT_EQ(marks().size(), 5U);
 }
 
 TEST_F(MarksDialogTest, CancellingChangesNothing) {

@@ -80,11 +80,6 @@ class PaletteTest : public WindowTest {
     }
     QCoreApplication::processEvents();
   }
-  std::vector<std::string> selectedRows() {
-    std::vector<std::string> names;
-    for (const QListWidgetItem* item : list().selectedItems()) names.push_back(nameOf(item).toStdString());
-    return names;
-  }
 
   ArtId art(const std::string& name) {
     for (ArtId id = 1; id <= world.document().artSlots(); ++id) {
@@ -144,74 +139,6 @@ class PaletteTest : public WindowTest {
 
   const std::string file = scratch.file("drawing.svg");
 };
-
-TEST_F(PaletteTest, MakesLayersForTheSelectedRowsUnderTheReservedOnes) {
-  const std::string before = readText(file);
-  showPalette();
-  ASSERT_GE(list().count(), 4);
-  EXPECT_EQ(button(), "Create Line Type Layer (off)");
-  clickRow("Kiss Cut");
-  EXPECT_EQ(button(), "Create Line Type Layer");
-  clickRow("Through Cut", Qt::ControlModifier);
-  EXPECT_EQ(button(), "Create Line Type Layers");
-  press();
-  EXPECT_THAT(layers(), ElementsAre("Lumenfold", "Kiss Cut", "Through Cut", "Art"))
-      << "as they were selected";
-  EXPECT_EQ(world.document().undoName(), "Create Line Type Layers");
-  press();
-  EXPECT_EQ(layers().size(), 4U) << "they are there already";
-  EXPECT_EQ(world.document().undoCount(), 1U);
-
-  world.choose({"File", "Save"});
-  const std::string saved = readText(file);
-  EXPECT_LT(saved.find("id=\"kept\""), std::string::npos);
-  EXPECT_GT(saved.find("id=\"kept\""), saved.find("Kiss Cut")) << "the reserved layer is above it";
-  world.document().undo();
-  EXPECT_THAT(layers(), ElementsAre("Art", "Lumenfold"));
-  world.choose({"File", "Save"});
-  EXPECT_TRUE(readText(file) == before);
-}
-
-TEST_F(PaletteTest, FollowsTheSelectionAndPaintsAndMovesIt) {
-  showPalette();
-  select({"low", "high"});
-  EXPECT_EQ(button(), "Create Line Type Layer (off)");
-  clickRow("Kiss Cut");
-  EXPECT_EQ(strokeOf("low"), "Kiss Cut over 1.0");
-  EXPECT_EQ(strokeOf("high"), "Kiss Cut over 1.0");
-  EXPECT_EQ(layerOf("low"), "Art");
-  EXPECT_EQ(world.document().undoCount(), 1U);
-  EXPECT_EQ(button(), "Move Selection to Line Type Layers");
-  EXPECT_THAT(selectedRows(), ElementsAre("Kiss Cut"));
-  select({"high"});
-  clickRow("Crease");
-  EXPECT_EQ(strokeOf("high"), "Crease over 1.0");
-  EXPECT_EQ(world.document().undoCount(), 2U);
-  EXPECT_EQ(world.document().undoName(), "Crease") << "the row that was clicked";
-  select({"low", "high"});
-  EXPECT_THAT(selectedRows(), testing::UnorderedElementsAre("Kiss Cut", "Crease"));
-  press();
-  EXPECT_EQ(layerOf("low"), "Kiss Cut");
-  EXPECT_EQ(layerOf("high"), "Crease");
-  EXPECT_EQ(world.document().undoName(), "Move Selection to Line Type Layers");
-  EXPECT_EQ(world.document().selection().size(), 2U);
-
-  world.choose({"File", "Save"});
-  EXPECT_THAT(readText(file), HasSubstr("stroke=\"#00ffff\"")) << "for other programs";
-  const std::vector<std::string> titles = layers();
-  const auto swatches = world.document().state().swatches.size();
-  world.choose({"File", "Close"});
-  EXPECT_THAT(window.openFiles({file}), IsEmpty());
-  EXPECT_EQ(strokeOf("low"), "Kiss Cut over 1.0");
-  EXPECT_EQ(layers(), titles);
-  EXPECT_EQ(world.document().state().swatches.size(), swatches);
-  ASSERT_EQ(world.document().state().swatchGroups.size(), 1U);
-  EXPECT_EQ(world.document().swatchGroup(world.document().state().swatchGroups[0])->name, "Cut Line Types");
-  select({"low"});
-  EXPECT_EQ(button(), "Move Selection to Line Type Layers") << "recognised again";
-  world.document().undo();
-  EXPECT_EQ(layerOf("low"), "Kiss Cut") << "opening is no step";
-}
 
 TEST_F(PaletteTest, TellsWhatItCouldNotDo) {
   showPalette();

@@ -14,7 +14,7 @@ inline std::string takeRecorded() {
   void* image =
       dlopen((testBundle("Recorder") / "Contents/Linux/Recorder.so").c_str(), RTLD_NOW | RTLD_NOLOAD);
   using Take = const char* (*)();
-  const std::string text = reinterpret_cast<Take>(dlsym(image, "TakeRecordedMessages"))();
+  std::string text = reinterpret_cast<Take>(dlsym(image, "TakeRecordedMessages"))();
   dlclose(image);
   return text;
 }

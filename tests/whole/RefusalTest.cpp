@@ -1,86 +1,191 @@
-// A host that withholds its suites, and one that refuses any single call of a command.
+// Everything that a user can do, with the host refusing one call or one kind of call.
 #include <gtest/gtest.h>
 
-#include "SuiteCatalog.h"
-#include "World.h"
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QtTest/QTest>
+
+#include "AINotifier.h"
+#include "AnnotatorMessages.h"
+#include "RefusalSweep.h"
 
 namespace host {
 namespace {
 
-TEST(Withheld, EachSuiteOfTheListKeepsThePluginOutAndTheHostUsable) {
-  std::size_t withheld = 0;
-  for (const SuiteOffer& offer : suiteCatalog()) {
-    if (std::string(offer.name) == "AS User Interaction Suite") continue;  // asked for at first use only
-    Host host;
-    ASSERT_EQ(host.refusal().add(offer.name), "");
-    Session session(host);
-    const std::string complaint = session.loadPlugin(corvaneBundle());
-    EXPECT_NE(complaint.find("did not start"), std::string::npos) << offer.name << ": " << complaint;
-    session.start();
-    SvgDrawing drawing = drawingOf(squareOnPage());
-    session.openDocument(drawing.document, "drawing", {});
-    EXPECT_FALSE(session.chooseMenuItem(kMarksKey).has_value()) << offer.name;
-    ++withheld;
-  }
-  EXPECT_EQ(withheld, 76U);
-  World world(squareOnPage());  // and the next one comes up as if nothing had been
-  EXPECT_EQ(world.complaint, "");
-  EXPECT_EQ(world.session.chooseMenuItem(kMarksKey), kSPNoError);
+constexpr char kNoticesKey[] = "Legal Notices...";
+
+constexpr char kCustomFile[] = R"({"Version":1,"Groups":{"Custom":[{"name":"Mine","isCustomDataModel":true,)"
+                               R"("customColor":{"kind":1,"flag":1,"rgb":[1,0,0.5]}}]}})";
+
+void nothing(RefusalWorld&) {}
+
+QList<QPointer<QWidget>> pointersTo(const QList<QWidget*>& widgets) {
+  return {widgets.begin(), widgets.end()};
 }
 
-struct Case {
-  const char* name;
-  std::int32_t shape, action;
-  double size;
-  int scale;
+template <std::int32_t shape, std::int32_t action>
+void options(RefusalWorld& world) {
+  world.setOptions(shape, action, 60, 0.5);
+}
+template <AIToolType number>
+void selectTool(RefusalWorld& world) {
+  world.setOptions(0, 1, 60, 0.5);
+  world.tools->choose(world.tool(1 - number));
+  world.tools->choose(world.tool(number));
+}
+template <AIToolType number>
+void chooseTool(RefusalWorld& world) {
+  world.tools->choose(world.tool(number));
+}
+void press(RefusalWorld& world) {
+  world.note(world.tools->mouseDown({10, 10}));
+}
+void chooseMarks(RefusalWorld& world) {
+  world.choose(kMarksKey);
+}
+
+void palette(RefusalWorld& world) {
+  world.select({});
+  world.showPalette(false);
+  world.showPalette(true);
+}
+void paletteWithRow(RefusalWorld& world) {
+  palette(world);
+  world.clickRow(1);
+}
+template <bool isPainted>
+void paletteWithArt(RefusalWorld& world) {
+  palette(world);
+  world.select({"low", "high"});
+  world.settle();
+  if (isPainted) world.clickRow(1);
+}
+
+// Every item of the dialog but its text buttons.
+void useEverything(QDialog& dialog) {
+  for (const QPointer<QWidget>& item : pointersTo(dialog.findChildren<QWidget*>())) {
+    if (item == nullptr || !item->isVisible() || !item->isEnabled() ||
+        qobject_cast<QPushButton*>(item) != nullptr)
+      continue;
+    if (auto* list = qobject_cast<QListWidget*>(item)) {
+      for (int row = 0; row < list->count(); ++row) {
+        if (list->isRowHidden(row)) continue;
+        const QPoint place = list->visualItemRect(list->item(row)).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
+      }
+    } else if (qobject_cast<QAbstractSpinBox*>(item) != nullptr) {
+      QTest::keyClicks(item, "7");
+      QTest::keyClick(item, Qt::Key_Tab);
+    } else if (qobject_cast<QComboBox*>(item) != nullptr || qobject_cast<QAbstractSlider*>(item) != nullptr) {
+      QTest::keyClick(item, Qt::Key_Down);
+    } else {
+      QTest::mouseClick(item, Qt::LeftButton);
+      if (item != nullptr && qobject_cast<QAbstractButton*>(item) == nullptr)
+        QTest::mouseDClick(item, Qt::LeftButton);
+    }
+  }
+}
+
+constexpr char kNotAllPlaced[] =
+    "Not all regmarks are placed because not enough space in the current artboard.";
+constexpr char kNotAdded[] = "Could not add regmarks because the regmark layer is locked or hidden.";
+constexpr char kNotWritten[] = "The custom layer file could not be written in the presets folder.";
+constexpr char kNotConverted[] = "One or more objects could not be converted.";
+constexpr char kNotMoved[] = "One or more objects could not be moved to a Line Type Layer.";
+
+constexpr Sweep kSweeps[] = {
+    {"corner marks", options<0, 1>, chooseMarks, Tells::Nothing, kNotAllPlaced},
+    {"crosses at corners", options<1, 1>, chooseMarks, Tells::Nothing, kNotAllPlaced},
+    {"auto marks", options<0, 2>, chooseMarks, Tells::Nothing},
+    {"edge marks", options<1, 3>, chooseMarks, Tells::Nothing, kNotAllPlaced},
+    {"options used", options<0, 1>,
+     [](RefusalWorld& world) {
+       world.hands = [](QDialog& dialog) {
+         useEverything(dialog);
+         dialog.findChild<QRadioButton*>()->click();  // marks manually
+       };
+       world.choose(kMarksKey);
+     },
+     Tells::Nothing},
+    {"palette shown and hidden", palette,
+     [](RefusalWorld& world) {
+       world.choose(kPaletteKey);
+       world.choose(kPaletteKey);
+     },
+     Tells::Nothing},
+    {"legal notices", nothing, [](RefusalWorld& world) { world.choose(kNoticesKey); }, Tells::Nothing},
+    {"preferences used",
+     [](RefusalWorld& world) {
+       world.writeCustomFile(kCustomFile);
+       palette(world);
+     },
+     [](RefusalWorld& world) {
+       world.hands = useEverything;
+       world.choose(kPreferencesKey);
+     },
+     Tells::Code, kNotWritten, "A plug-in failed: AI Exception."},
+    {"rows of the palette", palette, [](RefusalWorld& world) { world.clickRow(1); }, Tells::Nothing},
+    {"create layers", paletteWithRow, [](RefusalWorld& world) { world.pressPaletteButton(); },
+     Tells::Nothing},
+    {"paint", paletteWithArt<false>, [](RefusalWorld& world) { world.clickRow(1); }, Tells::Message,
+     kNotConverted},
+    {"move", paletteWithArt<true>, [](RefusalWorld& world) { world.pressPaletteButton(); }, Tells::Message,
+     kNotMoved},
+    {"round tool selected", selectTool<1>, chooseTool<0>, Tells::Nothing},
+    {"cross tool selected", selectTool<0>, chooseTool<1>, Tells::Nothing},
+    {"the same tool selected", selectTool<0>, chooseTool<0>, Tells::Nothing},
+    {"pointer", selectTool<1>,
+     [](RefusalWorld& world) {
+       for (const auto move :
+            {&ToolMessages::trackCursor, &ToolMessages::mouseDrag, &ToolMessages::mouseUp}) {
+         world.note((*world.tools.*move)({10, 10}));
+       }
+     },
+     Tells::Nothing},
+    {"round mark by hand", selectTool<0>, press, Tells::CodeAndMessage, kNotAdded},
+    {"cross by hand", selectTool<1>, press, Tells::CodeAndMessage, kNotAdded},
+    {"tool options", selectTool<0>,
+     [](RefusalWorld& world) { world.note(world.tools->editOptions(world.tool(0))); }, Tells::Code,
+     kNotAllPlaced},
+    {"table head", selectTool<0>,
+     [](RefusalWorld& world) {
+       const OpenDocument& open = *world.host.documents().current();
+       drawAnnotations(world.host, world.session, open, world);
+       invalidateAnnotations(world.host, world.session, open);
+     },
+     Tells::Nothing},
+    {"documents and theme", paletteWithArt<false>,
+     [](RefusalWorld& world) {
+       world.tools->choose(world.tool(0));
+       world.session.closeDocument(*world.drawing.document);
+       world.settle();
+       world.open();
+       world.session.notify(kAIUIBrightnessChangedNotifier);
+       world.session.notify(kAISaveUserDataNotifier);
+     },
+     Tells::Nothing},
 };
 
-void PrintTo(const Case& row, std::ostream* stream) {
-  *stream << row.name;
+class RefusalSweep : public testing::TestWithParam<Sweep> {};
+TEST_P(RefusalSweep, LeavesTheProductAtWork) {
+  sweep(GetParam());
 }
 
-// Few enough calls that they can be refused one by one: a large document scale makes the samples of free
-// space few. Of what is still many every few ones are.
-constexpr std::uint64_t kMostRuns = 400;
-
-class RefusedCall : public testing::TestWithParam<Case> {};
-
-TEST_P(RefusedCall, LeavesAValidDocumentThatOneUndoRestores) {
-  World world(squareOnPage(GetParam().scale));
-  ASSERT_EQ(world.complaint, "");
-  world.setOptions(GetParam().shape, GetParam().action, GetParam().size, 0.5);
-  const std::string before = writeSvg(world.drawing);
-
-  const std::uint64_t first = world.host.refusal().callCount();
-  ASSERT_EQ(world.session.chooseMenuItem(kMarksKey), kSPNoError);
-  const std::uint64_t calls = world.host.refusal().callCount() - first;
-  ASSERT_GT(calls, 50U);
-  ASSERT_NE(writeSvg(world.drawing), before);
-  ASSERT_TRUE(world.drawing.document->undo());
-  ASSERT_EQ(writeSvg(world.drawing), before);
-
-  for (std::uint64_t n = 1; n <= calls; n += calls / kMostRuns + 1) {
-    SCOPED_TRACE("call " + std::to_string(n));
-    const std::size_t steps = world.drawing.document->undoCount();
-    world.host.refusal().armNth(n);
-    EXPECT_EQ(world.session.chooseMenuItem(kMarksKey), kSPNoError);
-    world.host.refusal().armNth(0);
-    const std::string after = writeSvg(world.drawing);
-    ASSERT_TRUE(std::holds_alternative<SvgDrawing>(readSvg(after, nullptr)));
-    const std::size_t made = world.drawing.document->undoCount() - steps;
-    ASSERT_LE(made, 1U);
-    ASSERT_EQ(after == before, made == 0);
-    ASSERT_EQ(made == 1 && world.drawing.document->undo(), made == 1);
-    ASSERT_EQ(writeSvg(world.drawing), before);
-    // Every row of options is as it was: a refused read leaves defaults for that run only.
-    world.setOptions(GetParam().shape, GetParam().action, GetParam().size, 0.5);
+INSTANTIATE_TEST_SUITE_P(Actions, RefusalSweep, testing::ValuesIn(kSweeps), [](const auto& row) {
+  std::string name;
+  for (const char c : std::string(row.param.name)) {
+    if (c != ' ') name += c;
   }
-}
-
-INSTANTIATE_TEST_SUITE_P(Placements, RefusedCall,
-                         testing::Values(Case{"CornerRound", 0, 1, 17, 1}, Case{"CornerCross", 1, 1, 17, 1},
-                                         Case{"AutoRound", 0, 2, 30, 10}, Case{"EdgeCross", 1, 3, 17, 10}),
-                         [](const auto& row) { return row.param.name; });
+  return name;
+});
 
 }  // namespace
 }  // namespace host

@@ -5,7 +5,6 @@
 #include "AINotifier.h"
 #include "AnnotationCanvas.h"
 #include "AnnotatorMessages.h"
-#include "Bounds.h"
 #include "ToolMessages.h"
 #include "World.h"
 
@@ -36,20 +35,13 @@ class MarkTools : public testing::Test {
   AIToolHandle cross() { return tool(1).handle; }
   AIToolHandle addOwnTool() { return host.tools().add({}).handle; }
 
-  // Of the topmost layer "Regmark", from the bottom up.
   std::vector<Mark> marks() {
     std::vector<Mark> found;
     const Document& document = *host.currentDocument();
-    for (const LayerId id : document.state().layers) {
-      const Layer& layer = *document.layer(id);
-      if (layer.title != "Regmark") continue;
-      const Art& root = *document.art(layer.root);
-      for (ArtId art = root.lastChild; art != 0; art = document.art(art)->above) {
-        const AIRealRect box = artBounds(document, art, nullptr, 0);
-        found.push_back({(box.left + box.right) / 2, (box.bottom + box.top) / 2, box.right - box.left,
-                         document.art(art)->type});
-      }
-      break;
+    for (const ArtId art : artOn(document, "Regmark")) {
+      const AIRealRect box = artBounds(document, art, nullptr, 0);
+      found.push_back({(box.left + box.right) / 2, (box.bottom + box.top) / 2, box.right - box.left,
+                       document.art(art)->type});
     }
     return found;
   }
@@ -73,26 +65,6 @@ class MarkTools : public testing::Test {
   Host& host = world.host;
   ToolMessages tools{host, world.session};
 };
-
-TEST_F(MarkTools, ShareOnePlaceOfThePalette) {
-  ASSERT_EQ(host.tools().all().size(), 2U);
-  EXPECT_EQ(tool(0).name, "brevia Register Round Mark Tool");
-  EXPECT_EQ(tool(1).name, "brevia Register Cross Mark Tool");
-  EXPECT_EQ(tool(0).group, tool(1).group);
-  EXPECT_EQ(tool(0).toolset, tool(1).toolset);
-  for (const AIToolType number : {AIToolType{0}, AIToolType{1}}) {
-    EXPECT_TRUE(tool(number).tracksCursor);
-    EXPECT_THAT(tool(number).infoVariables, ElementsAre(kInfoDocX, kInfoDocY));
-    EXPECT_EQ(tool(number).tooltip, tool(number).title);
-    for (const std::int32_t icon : {tool(number).lightIcon, tool(number).darkIcon}) {
-      EXPECT_TRUE(host.pictures(tool(number).plugin).picture(icon, {})) << icon;
-    }
-  }
-  EXPECT_EQ(tool(0).darkIcon - tool(0).lightIcon, 1000) << "two versions";
-  for (const int cursor : {16221, 16223, 16224}) {
-    EXPECT_TRUE(host.pictures(tool(0).plugin).picture(cursor, {})) << cursor;
-  }
-}
 
 TEST_F(MarkTools, OneClickIsOneMarkAndOneStep) {
   const std::string before = writeSvg(world.drawing);
@@ -242,51 +214,6 @@ TEST_F(MarkTools, TheTableHeadShowsWhileAToolIsSelected) {
   EXPECT_EQ(world.drawing.document->undoCount(), 0U) << "strips are no art";
 }
 
-TEST_F(MarkTools, PaintingGoesOnAfterTheEndOfTheApplication) {
-  tools.choose(cross());
-  EXPECT_EQ(strips(), 1);
-  world.session.notify(kAIApplicationShutdownNotifier);
-  EXPECT_EQ(strips(), 0);
-  world.session.notify(kAIDocumentChangedNotifier, host.documents().current()->handle());
-  EXPECT_EQ(tools.trackCursor({1, 2}), kSPNoError);
-}
-
-TEST_F(MarkTools, ToolsOfTheApplicationGetNoMessages) {
-  const AIToolHandle own = addOwnTool();
-  EXPECT_FALSE(tools.mouseDown({0, 0})) << "no tool is selected";
-  EXPECT_TRUE(tools.choose(own));
-  EXPECT_FALSE(tools.trackCursor({0, 0}));
-  EXPECT_FALSE(tools.mouseDown({0, 0}));
-  EXPECT_FALSE(tools.mouseUp({0, 0}));
-  EXPECT_FALSE(tools.editOptions(own));
-  EXPECT_FALSE(tools.editOptions(nullptr));
-  EXPECT_FALSE(tools.choose(nullptr));
-  EXPECT_TRUE(tools.choose(round()));
-  EXPECT_FALSE(tools.mouseDrag({0, 0})) << "nothing is pressed";
-  EXPECT_TRUE(tools.choose(round())) << "a second time";
-  EXPECT_TRUE(marks().empty());
-}
-
-TEST_F(MarkTools, AnyRefusedCallOfAClickLeavesAValidDocument) {
-  tools.choose(cross());
-  const std::uint64_t first = host.refusal().callCount();
-  ASSERT_EQ(tools.mouseDown({100, 100}), kSPNoError);
-  const std::uint64_t calls = host.refusal().callCount() - first;
-  ASSERT_TRUE(world.drawing.document->undo());
-  const std::string before = writeSvg(world.drawing);
-  for (std::uint64_t n = 1; n <= calls; ++n) {
-    SCOPED_TRACE("call " + std::to_string(n));
-    const std::size_t steps = world.drawing.document->undoCount();
-    host.refusal().armNth(n);
-    EXPECT_TRUE(tools.mouseDown({100, 100}));
-    host.refusal().armNth(0);
-    ASSERT_TRUE(std::holds_alternative<SvgDrawing>(readSvg(writeSvg(world.drawing), nullptr)));
-    ASSERT_LE(world.drawing.document->undoCount(), steps + 1);
-    if (world.drawing.document->undoCount() > steps) world.drawing.document->undo();
-    ASSERT_TRUE(writeSvg(world.drawing) == before);
-  }
-}
-
 TEST(StoredMarkTool, ShowsInThePaletteWithoutBeingSelected) {
   ensureApplication();
   Host host;
@@ -301,24 +228,6 @@ TEST(StoredMarkTool, ShowsInThePaletteWithoutBeingSelected) {
   session.start();
   EXPECT_EQ(host.tools().visibleMember(cross.group)->handle, cross.handle);
   EXPECT_EQ(host.tools().selected()->handle, own);
-}
-
-TEST(RefusedTools, LeaveThePluginAtWork) {
-  for (const char* rule : {"AI Tool Suite:AddTool", "AI Tool Suite:AddTool:1",
-                           "AI Tool Suite:SetToolInfoVars", "AI Tool Suite:GetToolNumberFromName"}) {
-    SCOPED_TRACE(rule);
-    ensureApplication();
-    Host host;
-    Session session(host);
-    const DialogAnswerer answerer(host);
-    ASSERT_EQ(host.refusal().add(rule), "");
-    ASSERT_EQ(session.loadPlugin(corvaneBundle()), "");
-    session.start();
-    SvgDrawing drawing = drawingOf(squareOnPage());
-    session.openDocument(drawing.document, "drawing", {});
-    EXPECT_EQ(session.chooseMenuItem(kMarksKey), kSPNoError);
-    EXPECT_EQ(drawing.document->undoCount(), 1U);
-  }
 }
 
 }  // namespace

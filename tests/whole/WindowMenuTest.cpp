@@ -1,7 +1,6 @@
 // Menus as the user sees them, and what reaches the plug-in through them.
 #include <gmock/gmock.h>
 
-#include <QApplication>
 #include <QDialog>
 #include <QMenuBar>
 #include <QtTest/QTest>
@@ -25,7 +24,7 @@ class CountedPalette {
 };
 
 TEST_F(WindowTest, MenusShowWhatTheApplicationAndThePluginOffer) {
-  const std::string panels = "  ---\n  Layers [x]\n  Swatches [x]\n  Artboards [x]\n  " +
+  const std::string panels = "  ---\n  Layers [x]\n  Swatches [x]\n  Artboards [x]\n  Preflight\n  " +
                              world.textOf("Create Line Type Layers") + "\n";
   const std::string expectedEmpty =
       "File\n"
@@ -99,15 +98,6 @@ TEST_F(WindowTest, MenusShowWhatTheApplicationAndThePluginOffer) {
                                           "  ---\n  1 full-bleed-poster.svg\n  2 sticker-sheet.svg [x]\n"));
 }
 
-TEST_F(WindowTest, TextsOfPluginsAreShownLiterally) {
-  MenuItem item;
-  item.key = "odd";
-  item.text = "Cut & &crease\tnow";
-  world.host.menus().addItem(item, *world.host.menus().groupByName("View Zoom"));
-  window.refresh();
-  EXPECT_THAT(world.menuTree(), HasSubstr("  Cut & &crease now\n  ---\n  Rulers [x]\n"));
-}
-
 // The recorder is a plug-in that notes what it gets.
 TEST_F(WindowTest, AnItemIsUpdatedBeforeItsMenuShowsAndGoesWhenChosen) {
   ASSERT_EQ(world.session.loadPlugin(testBundle("Recorder")), "");
@@ -150,22 +140,6 @@ TEST_F(WindowTest, AnItemIsUpdatedBeforeItsMenuShowsAndGoesWhenChosen) {
   world.activate();
   world.choose({"View", "Plain"});
   EXPECT_THAT(takeRecorded(), HasSubstr("AI Go"));
-}
-
-TEST_F(WindowTest, KeysReachMenusAndItems) {
-  window.openFiles({kStickers, kPoster});
-  const auto chooseByKeys = [&](Qt::Key title, Qt::Key item) {
-    world.activate();
-    QTest::keyClick(&window, title, Qt::AltModifier);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    QTest::keyClick(QApplication::activePopupWidget(), item);
-  };
-  chooseByKeys(Qt::Key_W, Qt::Key_1);
-  EXPECT_EQ(world.host.documents().current()->title, "sticker-sheet.svg");
-  const BoxAnswer about(Qt::Key_Escape);
-  chooseByKeys(Qt::Key_H, Qt::Key_A);
-  ASSERT_TRUE(about.seen());
-  EXPECT_THAT(about.seen()->text, HasSubstr("corvane-host 0."));
 }
 
 }  // namespace

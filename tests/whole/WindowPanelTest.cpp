@@ -194,6 +194,8 @@ TEST_F(WindowPanelTest, OpensItsMenuAndNamesTheUndoStepAfterTheItem) {
   EXPECT_EQ(world.document().undoName(), "Lock & All");
   QCoreApplication::processEvents();
   EXPECT_TRUE(window.isWindowModified()) << "the window shows what the plug-in did";
+  EXPECT_EQ(menus.Destroy(menu), kNoErr);
+  EXPECT_EQ(world.host.panels().find(panel)->menu, nullptr);
 }
 
 TEST_F(WindowPanelTest, ComesBackWhereItWas) {

@@ -116,19 +116,6 @@ TEST_F(WindowTest, SaveAsGivesTheDrawingItsNewFile) {
   EXPECT_EQ(world.host.documents().current()->file, world.fileToSave);
 }
 
-TEST_F(WindowTest, AFailedSaveIsToldAndLosesNothing) {
-  const std::string file = scratch.write("sheet.svg", readText(kStickers));
-  window.openFiles({file});
-  world.addMarks();
-  world.fileToSave = scratch.file("missing/sheet.svg");
-  const BoxAnswer answer(Qt::Key_Return);
-  world.press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-  ASSERT_TRUE(answer.seen());
-  EXPECT_EQ(answer.seen()->text, "Cannot save " + world.fileToSave + ": its folder is not there");
-  EXPECT_TRUE(window.isWindowModified());
-  EXPECT_EQ(world.host.documents().current()->file, file);
-}
-
 TEST_F(WindowTest, WhatCannotBeOpenedIsToldInOneBox) {
   const std::string broken = scratch.write("broken.svg", "<svg");
   world.filesToOpen = {scratch.file("none.svg"), kStickers, broken};

@@ -9,7 +9,9 @@
 #include <string>
 #include <utility>
 #include <variant>
+#include <vector>
 
+#include "Bounds.h"
 #include "DialogAnswerer.h"
 #include "Host.h"
 #include "OffscreenApplication.h"
@@ -47,6 +49,27 @@ inline std::string squareOnPage(int scale = 1) {
          "\" width=\"600pt\" height=\"800pt\" viewBox=\"0 0 600 800\">\n"
          "  <rect x=\"100\" y=\"500\" width=\"200\" height=\"200\" fill=\"#f00\"/>\n"
          "</svg>\n";
+}
+
+// Of the topmost layer with that title, from the bottom up; nothing if there is no such layer.
+inline std::vector<ArtId> artOn(const Document& document, const std::string& title) {
+  std::vector<ArtId> found;
+  for (const LayerId id : document.state().layers) {
+    if (document.layer(id)->title != title) continue;
+    ArtId art = document.art(document.layer(id)->root)->lastChild;
+    for (; art != 0; art = document.art(art)->above) found.push_back(art);
+    break;
+  }
+  return found;
+}
+
+inline std::vector<AIRealPoint> centresOn(const Document& document, const std::string& title) {
+  std::vector<AIRealPoint> centres;
+  for (const ArtId art : artOn(document, title)) {
+    const AIRealRect box = artBounds(document, art, nullptr, 0);
+    centres.push_back({(box.left + box.right) / 2, (box.bottom + box.top) / 2});
+  }
+  return centres;
 }
 
 // A host without a window, the plug-in started, and a drawing open in it if one is given.

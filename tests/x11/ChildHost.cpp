@@ -7,6 +7,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <stdexcept>
 #include <thread>
 
@@ -41,6 +42,16 @@ InputDevices::Place ChildHost::waitForWindow(InputDevices& devices, bool isDialo
     std::this_thread::sleep_for(std::chrono::milliseconds(10));
   }
   throw std::runtime_error(isDialog ? "there is no dialog" : "there is no window");
+}
+
+bool ChildHost::hasOpen(const std::string& folder) const {
+  namespace fs = std::filesystem;
+  std::error_code gone;
+  fs::directory_iterator file("/proc/" + std::to_string(process_) + "/fd", gone);
+  for (; !gone && file != fs::directory_iterator(); file.increment(gone)) {
+    if (fs::read_symlink(file->path(), gone).string().rfind(folder + "/", 0) == 0) return true;
+  }
+  return false;
 }
 
 void ChildHost::kill() {

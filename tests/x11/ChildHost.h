@@ -22,8 +22,9 @@ class ChildHost {
   bool focusWindow(InputDevices& devices, bool isDialog) {  // false: there is none
     return devices.focusWindowOf(process_, isDialog).has_value();
   }
-  void kill();       // without a chance to tidy up
-  int waitForEnd();  // the exit code; -1 after a signal
+  bool hasOpen(const std::string& folder) const;  // some file in it, with or without a name
+  void kill();                                    // without a chance to tidy up
+  int waitForEnd();                               // the exit code; -1 after a signal
 
  private:
   pid_t process_;

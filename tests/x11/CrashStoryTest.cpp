@@ -73,7 +73,7 @@ TEST_F(CrashStory, AKillDuringASaveLosesNothing) {
     });
     shoot("before-the-kill");
     devices.pressKeys("Ctrl+s");
-    waitFor("temporary file", [&] { return drawings.count() > 1; });
+    waitFor("file being written", [&] { return host.hasOpen(drawings.path.string()); });
     host.kill();
   }
   EXPECT_TRUE(readText(file) == before);

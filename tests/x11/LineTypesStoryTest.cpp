@@ -22,7 +22,6 @@ constexpr QRgb kBlue = qRgb(0, 0, 255);
 constexpr QRgb kWhite = qRgb(255, 255, 255);
 constexpr AIRealPoint kSquare{200, 200};
 constexpr AIRealPoint kOblong{425, 200};
-constexpr AIRealPoint kText{150, 630};
 
 constexpr char kDrawing[] =
     R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:inkscape="http://www.inkscape.org/namespaces/inkscape"
@@ -127,33 +126,6 @@ TEST_F(LineTypesStory, ArtIsPaintedMovedSavedAndFoundAgain) {
   });
 }
 
-TEST_F(LineTypesStory, WhatCannotBeDoneIsTold) {
-  tell([&](User& user) {
-    start(user);
-    select(user, kText);
-    user.click(row("Kiss Cut"));
-    answerMessage(user, "One or more objects could not be converted.");
-    user.waitForNoDialog();
-    select(user, kSquare);
-    user.click(row("Crease"));
-    waitForColour(user, kSquare, kWhite);
-    user.click(row(kMove));
-    answerMessage(user,
-                  "Could not move selection because one or more line type layers are locked or hidden.");
-    user.waitForNoDialog();
-    waitForArt(user, "Crease", 0);
-    select(user, kOblong, "Shift");
-    user.wait("two selected", [&] { return world.document().selectedCount() == 2; });
-    user.click(row("Score"));
-    waitForColour(user, kOblong, kWhite);
-    user.click(row(kMove));
-    waitForArt(user, "Score", 2);
-    select(user, kText);
-    user.click(row("Score"));
-    answerMessage(user, "One or more objects could not be converted.");
-  });
-}
-
 TEST_F(LineTypesStory, CustomTypesAreMadeChangedAndDeleted) {
   tell([&](User& user) {
     start(user);
@@ -211,25 +183,6 @@ TEST_F(LineTypesStory, CustomTypesAreMadeChangedAndDeleted) {
     user.click(row(kMove));
     waitForArt(user, "Hot Knife", 1);
     user.shoot("custom-type");
-  });
-}
-
-TEST_F(LineTypesStory, ThePaletteFollowsThemeAndLanguage) {
-  tell([&](User& user) {
-    start(user);
-    user.click(row("Kiss Cut"));
-    user.chooseMenu({"View", "Dark"});
-    const QRect button = user.find(row("Create Line Type Layer"));
-    user.wait("a dark palette",
-              [&] { return QColor(colourOfPixel(button.topLeft() - QPoint(0, 3))).lightness() < 128; });
-    user.shoot("palette-dark");
-    user.chooseMenu({"View", "Language", "Deutsch"});
-    user.wait("German", [&] { return world.textOf(kPalette) != kPalette; });
-    const std::string palette = user.see([&] { return world.textOf(kPalette); });
-    if (!user.isThere(palette + " / Anschneiden")) user.chooseMenu(productMenu(user, kPalette));
-    user.click(palette + " / Anschneiden");
-    user.shoot("palette-german");
-    user.chooseMenu({"View", "Light"});
   });
 }
 

@@ -1,7 +1,6 @@
 // Register marks as the designer makes them: by the command, by its dialog and by hand.
 #include <gmock/gmock.h>
 
-#include <QApplication>
 #include <QDialog>
 
 #include "Theme.h"
@@ -163,85 +162,6 @@ TEST_F(MarksStory, ToolsPlaceMarksByHand) {
     expectCrossAt(user, {400, 600}, 17);  // in the colours of the dialog
     user.click("Select");
     waitForStrip(user, false);
-  });
-}
-
-TEST_F(MarksStory, ALookChosenOverTheDialogReachesIt) {
-  const std::string file = scratch.write("square.svg", squareOnPage());
-  tell([&](User& user) {
-    open(user, file);
-    openDialog(user);
-    const auto lightness = [&] {
-      return user.see([] {
-        QWidget& dialog = *QApplication::activeModalWidget();
-        return dialog.grab(QRect(1, 1, 1, 1)).toImage().pixelColor(0, 0).lightness();
-      });
-    };
-    EXPECT_GT(lightness(), 128);
-    user.choose("Round", "Cross");
-    trigger(user, "Dark");
-    user.wait("a dark dialog", [] {
-      QWidget& dialog = *QApplication::activeModalWidget();
-      return dialog.grab(QRect(1, 1, 1, 1)).toImage().pixelColor(0, 0).lightness() < 128;
-    });
-    user.shoot("dialog-dark");
-    trigger(user, "Deutsch");
-    EXPECT_TRUE(user.isThere("Cross")) << "what was chosen stays";
-    user.click("OK");
-    waitForArt(user, kMarkLayer, 5);
-    user.wait("German menus", [&] { return world.textOf(kMarksKey) != kMarksKey; });
-    user.chooseMenu(productMenu(user, kMarksKey));
-    user.wait("the German dialog", [] { return QApplication::activeModalWidget() != nullptr; });
-    EXPECT_THAT(user.texts(), HasSubstr("Abbrechen"));
-    EXPECT_FALSE(user.isThere("Cancel"));
-    user.shoot("dialog-german");
-    trigger(user, "Light");
-    user.press("Escape");
-    user.waitForNoDialog();
-    waitForArt(user, kMarkLayer, 5);
-  });
-}
-
-TEST_F(MarksStory, MarksWithoutRoomAreToldOf) {
-  const std::string full =
-      R"(<svg xmlns="http://www.w3.org/2000/svg" width="300pt" height="300pt" viewBox="0 0 300 300">
-<rect x="-10" y="-10" width="320" height="320" fill="#080"/></svg>)";
-  const std::string file = scratch.write("full.svg", full);
-  tell([&](User& user) {
-    open(user, file);
-    openDialog(user);
-    user.click("OK");
-    answerMessage(user, "Not all regmarks are placed because not enough space in the current artboard.");
-    user.waitForNoDialog();
-  });
-}
-
-TEST_F(MarksStory, ClosingAsksWhatIsToBecomeOfChanges) {
-  const std::string file = scratch.write("square.svg", squareOnPage());
-  const auto isOpen = [&] { return world.host.currentDocument() != nullptr; };
-  tell([&](User& user) {
-    open(user, file);
-    user.click(kRoundTool);
-    user.clickAt(placeOf(user, {400, 600}));
-    waitForArt(user, kMarkLayer, 1);
-    for (const char* answer : {"Cancel", "Discard", "Save"}) {
-      if (!user.see(isOpen)) {
-        open(user, file);
-        waitForArt(user, kMarkLayer, 0);
-        user.clickAt(placeOf(user, {400, 600}));
-        waitForArt(user, kMarkLayer, 1);
-      }
-      user.press("Ctrl+w");
-      user.wait("the question", [] { return QApplication::activeModalWidget() != nullptr; });
-      user.find("~Save the changes to");
-      user.shoot(std::string("question-") + answer);
-      user.click(answer);
-      user.waitForNoDialog();
-      EXPECT_EQ(user.see(isOpen), answer == std::string("Cancel")) << answer;
-      EXPECT_EQ(readText(file) == squareOnPage(), answer != std::string("Save")) << answer;
-    }
-    open(user, file);
-    waitForArt(user, kMarkLayer, 1);
   });
 }
 

@@ -239,7 +239,12 @@ void User::moveTo(const QPoint& place) const {
 }
 
 void User::clickAt(const QPoint& place, std::string_view heldKey) const {
-  drag(place, place, heldKey);
+  moveTo(place);
+  if (!heldKey.empty()) devices_.holdKey(heldKey, true);
+  devices_.press(InputDevices::kLeft);
+  devices_.release(InputDevices::kLeft);
+  if (!heldKey.empty()) devices_.holdKey(heldKey, false);
+  settle();
 }
 
 void User::doubleClick(const std::string& name) const {
@@ -249,20 +254,6 @@ void User::doubleClick(const std::string& name) const {
     devices_.press(InputDevices::kLeft);
     devices_.release(InputDevices::kLeft);
   }
-  settle();
-}
-
-void User::drag(const QPoint& from, const QPoint& to, std::string_view heldKey) const {
-  moveTo(from);
-  if (!heldKey.empty()) devices_.holdKey(heldKey, true);
-  devices_.press(InputDevices::kLeft);
-  if (to != from) {
-    settle();
-    devices_.moveTo((from.x() + to.x()) / 2, (from.y() + to.y()) / 2);
-    moveTo(to);
-  }
-  devices_.release(InputDevices::kLeft);
-  if (!heldKey.empty()) devices_.holdKey(heldKey, false);
   settle();
 }
 

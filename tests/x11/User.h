@@ -49,7 +49,6 @@ class User {
   void doubleClick(const std::string& name) const;
   void clickAt(const QPoint& place, std::string_view heldKey = {}) const;
   void moveTo(const QPoint& place) const;
-  void drag(const QPoint& from, const QPoint& to, std::string_view heldKey = {}) const;
   void wheel(const QPoint& place, int steps, std::string_view heldKey = {}) const;  // up is positive
   void press(std::string_view keys) const;
   void type(std::string_view text) const;

@@ -1,11 +1,9 @@
 #include "WindowStory.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QPixmap>
 #include <QScreen>
 
-#include "Bounds.h"
 #include "DrawingTabs.h"
 #include "DrawingView.h"
 #include "PreferredLanguages.h"
@@ -56,27 +54,13 @@ void WindowStory::waitForColour(const User& user, const AIRealPoint& point, QRgb
             [&] { return colourOfPixel(place) == colour; });
 }
 
-std::vector<AIRealPoint> WindowStory::centres(const std::string& layer) {
-  std::vector<AIRealPoint> found;
-  const Document& document = world.document();
-  for (const LayerId id : document.state().layers) {
-    if (document.layer(id)->title != layer) continue;
-    ArtId art = document.art(document.layer(id)->root)->lastChild;
-    for (; art != 0; art = document.art(art)->above) {
-      const AIRealRect box = artBounds(document, art, nullptr, 0);
-      found.push_back({(box.left + box.right) / 2, (box.bottom + box.top) / 2});
-    }
-  }
-  return found;
-}
-
 std::vector<AIRealPoint> WindowStory::centresOn(const User& user, const std::string& layer) {
-  return user.see([&] { return centres(layer); });
+  return user.see([&] { return host::centresOn(world.document(), layer); });
 }
 
 void WindowStory::waitForArt(const User& user, const std::string& layer, std::size_t count) {
   user.wait(std::to_string(count) + " pieces of art on " + layer,
-            [&] { return centres(layer).size() == count; });
+            [&] { return artOn(world.document(), layer).size() == count; });
 }
 
 std::vector<std::string> WindowStory::layers(const User& user) {
@@ -97,15 +81,6 @@ void WindowStory::answerMessage(const User& user, const std::string& text) {
   EXPECT_TRUE(user.isThere(text)) << user.texts();
   user.shoot("message");
   user.press("Return");
-}
-
-void WindowStory::trigger(const User& user, const std::string& entry) {
-  user.see([&] {
-    for (QAction* action : window.findChildren<QAction*>()) {
-      if (shownText(action->text()) == entry) return action->trigger();
-    }
-    throw std::runtime_error("no entry " + entry);
-  });
 }
 
 std::vector<std::string> WindowStory::productMenu(const User& user, const std::string& key) {

@@ -37,17 +37,12 @@ class WindowStory : private SharedData, public WindowTest {
   std::vector<std::string> layers(const User& user);
   // The message is up; it goes with Return.
   void answerMessage(const User& user, const std::string& text);
-  // An entry of the menus that a dialog keeps the mouse from.
-  void trigger(const User& user, const std::string& entry);
 
   // In the thread of the window.
   static QRgb colourOfPixel(const QPoint& place);  // of the screen
 
   // The way to an item of the product's menu.
   std::vector<std::string> productMenu(const User& user, const std::string& key);
-
- private:
-  std::vector<AIRealPoint> centres(const std::string& layer);
 };
 
 }  // namespace host

@@ -2,7 +2,6 @@
 
 #include "AIMatchingArt.h"
 #include "HostFixture.h"
-#include "SPBlocks.h"
 
 namespace {
 
@@ -54,24 +53,6 @@ TEST_F(ArtSuiteTest, OnlyGroupsAndCompoundPathsHoldArt) {
                    art.NewArt(kPathArt, kPlaceAboveAll, nullptr, nullptr)));
 }
 
-TEST_F(ArtSuiteTest, MovesWithinADocument) {
-  const AIArtHandle group = newArt(kGroupArt);
-  const AIArtHandle inner = newArt(kGroupArt, kPlaceInsideOnTop, group);
-  const AIArtHandle path = newArt(kPathArt);
-  EXPECT_EQ(art.ReorderArt(path, kPlaceInsideOnBottom, inner), kNoErr);
-  EXPECT_EQ(childrenOf(inner), Handles{path});
-  for (const auto& [child, expected] : {std::pair(path, inner), {root(), nullptr}}) {
-    AIArtHandle parent = child;
-    EXPECT_EQ(art.GetArtParent(child, &parent), kNoErr);
-    EXPECT_EQ(parent, expected);
-  }
-  EXPECT_EQ(art.ReorderArt(group, kPlaceInsideOnTop, inner), kBadParameterErr);
-  EXPECT_EQ(art.ReorderArt(group, kPlaceAbove, group), kBadParameterErr);
-  EXPECT_EQ(art.ReorderArt(root(), kPlaceInsideOnTop, inner), kBadParameterErr);
-  EXPECT_EQ(art.ReorderArt(path, kPlaceAboveAll, nullptr), kNoErr);
-  EXPECT_EQ(childrenOf(root()), (Handles{path, group}));
-}
-
 TEST_F(ArtSuiteTest, CopiesWithAllThatArtHolds) {
   const AIArtHandle group = newArt(kGroupArt);
   const AIArtHandle compound = newArt(kCompoundPathArt, kPlaceInsideOnTop, group);
@@ -113,61 +94,6 @@ TEST_F(ArtSuiteTest, CopiesWithAllThatArtHolds) {
   EXPECT_EQ(document->state().layers.size(), 3U);
   EXPECT_EQ(document->layer(document->state().layers[1])->title, "Layer 1");
   EXPECT_EQ(childrenOf(copy).size(), 3U);
-}
-
-TEST_F(ArtSuiteTest, SelectedArtComesInABlockOfItsOwn) {
-  const auto& matching = ACQUIRE(AIMatchingArtSuite);
-  const auto& blocks = ACQUIRE(SPBlocksSuite);
-  AIArtHandle* found = nullptr;
-  std::int32_t count = -1;
-  EXPECT_EQ(matching.GetSelectedArt(&found, &count), kNoErr);
-  EXPECT_EQ(count, 0);
-  EXPECT_EQ(found, nullptr);
-  newArt(kPathArt);
-  const AIArtHandle path = newArt(kPathArt, kPlaceInsideOnTop, newArt(kGroupArt));
-  EXPECT_EQ(art.SetArtUserAttr(path, kArtSelected, kArtSelected), kNoErr);
-  EXPECT_EQ(matching.GetSelectedArt(&found, &count), kNoErr);
-  ASSERT_EQ(count, 1);
-  EXPECT_EQ(found[0], path);
-  EXPECT_EQ(blocks.FreeBlock(found), kNoErr);
-  EXPECT_EQ(matching.GetSelectedArt(nullptr, &count), kNoErr);
-  EXPECT_EQ(matching.GetSelectedArt(&found, nullptr), kBadParameterErr);
-  host.documents().close(*document);
-  EXPECT_EQ(matching.GetSelectedArt(nullptr, &count), kNoDocumentErr);
-}
-
-TEST_F(ArtSuiteTest, GroupsAreSelectedWithWhatTheyHold) {
-  const AIArtHandle group = newArt(kGroupArt);
-  const AIArtHandle path = newArt(kPathArt, kPlaceInsideOnTop, group);
-  const AIArtHandle compound = newArt(kCompoundPathArt, kPlaceInsideOnTop, group);
-  const AIArtHandle part = newArt(kPathArt, kPlaceInsideOnTop, compound);
-  const auto selected = [&] {
-    Handles found;
-    for (const AIArtHandle handle : {root(), group, path, compound, part}) {
-      std::int32_t attributes = 0;
-      EXPECT_EQ(art.GetArtUserAttr(handle, kArtSelected | kArtIsClipMask, &attributes), kNoErr);
-      if (attributes == kArtSelected) found.push_back(handle);
-    }
-    return found;
-  };
-  const struct {
-    AIArtHandle what;
-    std::int32_t attributes;
-    Handles selected;
-  } table[] = {
-      {part, kArtSelected, {root(), group, compound, part}},
-      {group, kArtSelected, {root(), group, path, compound, part}},
-      {compound, 0, {root(), group, path}},
-      {root(), 0, {}},
-  };
-  for (const auto& row : table) {
-    EXPECT_EQ(art.SetArtUserAttr(row.what, kArtSelected, row.attributes), kNoErr);
-    EXPECT_EQ(selected(), row.selected);
-  }
-  EXPECT_EQ(art.SetArtUserAttr(path, kArtSelected | kArtLocked, kArtLocked), kBadParameterErr);
-  ASSERT_EQ(layers.SetLayerEditable(topLayer(), 0), kNoErr);
-  EXPECT_EQ(art.SetArtUserAttr(path, kArtSelected, kArtSelected), kLayerLockedErr);
-  EXPECT_EQ(selected(), Handles{});
 }
 
 TEST_F(ArtSuiteTest, LockedAndHiddenLayersAreLeftAlone) {

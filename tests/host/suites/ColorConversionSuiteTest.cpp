@@ -39,12 +39,6 @@ TEST_F(ColorConversionSuiteTest, ConvertsAmongItsSpaces) {
   }
 }
 
-TEST_F(ColorConversionSuiteTest, ConvertsInPlaceAndWithoutTheFlag) {
-  float sample[4] = {1, 0, 0, 0};
-  EXPECT_EQ(suite.ConvertSample(kRGBSpace, sample, kCMYKSpace, sample, kDefaultConversion, nullptr), kNoErr);
-  EXPECT_THAT(sample, testing::ElementsAre(0, 1, 1, 0));
-}
-
 TEST_F(ColorConversionSuiteTest, RefusesWhatIsNoSample) {
   const float good[4] = {}, nan[] = {0, NAN, 0}, infinite[] = {0, 0, -INFINITY};
   float result[4] = {-1, -1, -1, -1};

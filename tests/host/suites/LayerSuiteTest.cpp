@@ -23,12 +23,6 @@ class LayerSuiteTest : public HostFixture {
     }
     return found;
   }
-  static bool ask(AIErr (*entry)(AILayerHandle, AIBoolean*), AILayerHandle layer) {
-    AIBoolean answer = 2;
-    EXPECT_EQ(entry(layer, &answer), kNoErr);
-    EXPECT_LT(answer, 2);
-    return answer == 1;
-  }
 
   using Titles = std::vector<std::string>;
 };
@@ -65,16 +59,6 @@ TEST_F(LayerSuiteTest, KeepsTheLastLayer) {
   insert(nullptr, kPlaceAboveAll, "new");
   EXPECT_EQ(layers.DeleteLayer(first), kNoErr);
   EXPECT_EQ(titles(), Titles{"new"});
-}
-
-TEST_F(LayerSuiteTest, FindsSelectedArtInsideGroups) {
-  const AILayerHandle layer = topLayer();
-  EXPECT_FALSE(ask(layers.LayerHasArt, layer));
-  const AIArtHandle path = newArt(kPathArt, kPlaceInsideOnTop, newArt(kGroupArt));
-  EXPECT_TRUE(ask(layers.LayerHasArt, layer));
-  EXPECT_FALSE(ask(layers.LayerHasSelectedArt, layer));
-  document->setSelected(host::idOfHandle(path, host::HandleKind::Art, document->serial()), true);
-  EXPECT_TRUE(ask(layers.LayerHasSelectedArt, layer));
 }
 
 TEST_F(LayerSuiteTest, WithoutADocumentThereAreNone) {

@@ -29,31 +29,6 @@ TEST_F(MenuSuiteTest, AGroupStandsBehindItsNeighbourOfExactlyThatName) {
                    menus.AddMenuGroup("new", 0, "help menu", &group)));
 }
 
-TEST_F(MenuSuiteTest, GroupsCanBeListedWhileTheyGrow) {
-  std::int32_t before = 0;
-  ASSERT_EQ(menus.CountMenuGroups(&before), kNoErr);
-  const auto nameOf = [&](std::int32_t place) {
-    AIMenuGroup group = nullptr;
-    const char* name = nullptr;
-    EXPECT_EQ(menus.GetNthMenuGroup(place, &group), kNoErr);
-    EXPECT_EQ(menus.GetMenuGroupName(group, &name), kNoErr);
-    return name;
-  };
-  const char* firstName = nameOf(0);
-  const std::string nameBefore = firstName;
-  for (int i = 0; i < 100; ++i) {
-    const std::string name = "group " + std::to_string(i);
-    AIMenuGroup made = nullptr;
-    ASSERT_EQ(menus.AddMenuGroupAsSubMenu(name.c_str(), 0, addItem(name.c_str(), "Help Menu"), &made),
-              kNoErr);
-  }
-  EXPECT_EQ(firstName, nameBefore);
-  EXPECT_STREQ(nameOf(before + 99), "group 99");
-  AIMenuGroup last = nullptr;
-  EXPECT_EQ(menus.GetNthMenuGroup(before + 100, &last), kNoSuchItemErr);
-  EXPECT_EQ(menus.GetNthMenuGroup(-1, &last), kNoSuchItemErr);
-}
-
 TEST_F(MenuSuiteTest, EnablesItemsWithTheDocumentAndOnNoOtherCondition) {
   const AIMenuItemHandle item = addItem("Add Marks...", "Tool Palettes");
   const host::MenuItem& record = *host.menus().items().find(item);

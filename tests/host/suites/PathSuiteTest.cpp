@@ -132,19 +132,6 @@ TEST_F(PathStyleTest, RefusesWhatCanNotBePainted) {
   EXPECT_EQ(styleOf(path).stroke.width, 0);
 }
 
-TEST_F(PathStyleTest, CustomColoursAreTheDocumentsOwn) {
-  const auto& colors = ACQUIRE(AICustomColorSuite);
-  const AICustomColor definition{};
-  AIPathStyle style{};
-  style.fill.color.kind = kCustomColor;
-  ASSERT_EQ(colors.NewCustomColor(&definition, text("Cut"), &style.fill.color.c.c.color), kNoErr);
-  EXPECT_EQ(styles.SetPathStyle(path, &style), kNoErr);
-  const auto other = makeDocument();
-  host.documents().open(other, "other");
-  EXPECT_EQ(styles.SetPathStyle(newArt(kPathArt), &style), kBadParameterErr);
-  EXPECT_EQ(styles.SetPathStyle(path, &style), kNoErr);  // its own document is still open
-}
-
 TEST_F(PathStyleTest, ACompoundPathHasOneStyle) {
   const AIArtHandle compound = newArt(kCompoundPathArt);
   const AIArtHandle inner = newArt(kPathArt, kPlaceInsideOnTop, compound);

@@ -42,15 +42,6 @@ TEST_F(SuiteCatalogTest, TablesAreFullAndEntriesNamedOnce) {
   EXPECT_EQ(host::findSuite(kSPBasicSuite)->entries.size() * sizeof(void*), sizeof(SPBasicSuite));
 }
 
-TEST_F(SuiteCatalogTest, CountsWhatIsHeld) {
-  const std::int32_t before = host.holds();
-  ACQUIRE(AIArtSuite);
-  EXPECT_EQ(host.holds(), before + 1);
-  EXPECT_EQ(host.basic()->ReleaseSuite(kAIArtSuite, kAIArtSuiteVersion), kSPNoError);
-  EXPECT_EQ(host.holds(), before);
-  EXPECT_EQ(host.basic()->ReleaseSuite(kAIArtSuite, kAIArtSuiteVersion - 1), kSPSuiteNotFoundError);
-}
-
 TEST_F(SuiteCatalogTest, BasicSuiteAllocatesWhatItCan) {
   const SPBasicSuite& basic = *host.basic();
   EXPECT_EQ(basic.IsEqual("AI Menu", "AI menu"), 0);
@@ -61,14 +52,6 @@ TEST_F(SuiteCatalogTest, BasicSuiteAllocatesWhatItCan) {
   EXPECT_TRUE(each(kSPNoError, basic.FreeBlock(block), basic.FreeBlock(nullptr)));
   EXPECT_EQ(basic.AllocateBlock(~std::size_t{0}, &block), kSPOutOfMemoryError);
   EXPECT_EQ(block, nullptr);
-}
-
-TEST(HostTest, TablesFailWithoutAHost) {
-  const SPBasicSuite* basic = host::Host().basic();
-  const void* table = &basic;
-  EXPECT_NE(basic->AcquireSuite(kAIArtSuite, kAIArtSuiteVersion, &table), kSPNoError);
-  EXPECT_EQ(table, nullptr);
-  EXPECT_EQ(basic->IsEqual("a", "a"), 0);
 }
 
 TEST(HostTest, NothingOfAHostLivesOnInTheNext) {

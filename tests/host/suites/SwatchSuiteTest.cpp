@@ -53,19 +53,6 @@ TEST_F(SwatchSuiteTest, CustomColoursHaveNamesOfTheirOwn) {
   EXPECT_EQ(kept.flag, kCustomSpotColor);
 }
 
-TEST_F(SwatchSuiteTest, NewGroupsGoWhereTold) {
-  const AISwatchGroupRef last = groups.NewGroup(nullptr, 0, -1);
-  const AISwatchGroupRef first = groups.NewGroup(nullptr, 0, 0);
-  const AISwatchGroupRef middle = groups.NewGroup(nullptr, 0, 1);
-  const auto& order = document->state().swatchGroups;
-  const auto id = [&](AISwatchGroupRef group) {
-    return host::idOfHandle(group, host::HandleKind::SwatchGroup, document->serial());
-  };
-  EXPECT_EQ(order, (std::vector<host::SwatchGroupId>{id(first), id(middle), id(last)}));
-  EXPECT_EQ(groups.NewGroup(nullptr, 0, 4), nullptr);
-  EXPECT_EQ(groups.NewGroup(nullptr, 0, -2), nullptr);
-}
-
 TEST_F(SwatchSuiteTest, GroupsAreFilledInOrderAndSearchedByNameAndKind) {
   const AISwatchGroupRef group = groups.NewGroup(nullptr, kAISwatchGroupKindPlain, -1);
   EXPECT_EQ(groups.GetGroupByName(nullptr, text("Lines")), nullptr);
@@ -85,17 +72,6 @@ TEST_F(SwatchSuiteTest, GroupsAreFilledInOrderAndSearchedByNameAndKind) {
   for (const auto& [name, kind, found] : searches) {
     EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text(name), kind), found) << name << kind;
   }
-}
-
-TEST_F(SwatchSuiteTest, OnlyTheListOfTheDocumentIsKnown) {
-  const auto other = reinterpret_cast<AISwatchListRef>(this);
-  std::int32_t number = 0;
-  EXPECT_EQ(swatches.CountSwatches(other, &number), kBadParameterErr);
-  EXPECT_EQ(swatches.GetNthSwatch(other, 0), nullptr);
-  EXPECT_EQ(groups.NewGroup(other, 0, -1), nullptr);
-  host.documents().close(*document);
-  EXPECT_EQ(swatches.CountSwatches(nullptr, &number), kNoDocumentErr);
-  EXPECT_EQ(groups.NewGroup(nullptr, 0, -1), nullptr);
 }
 
 TEST_F(SwatchSuiteTest, ACustomColourIsValidInItsOwnDocumentAlone) {

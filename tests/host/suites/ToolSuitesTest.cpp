@@ -55,47 +55,6 @@ TEST_F(ToolSuitesTest, ToolsAreNumberedInTheirOrder) {
   }
 }
 
-TEST_F(ToolSuitesTest, TheInfoDisplayShowsWhatTheSelectedToolAskedFor) {
-  const AIToolHandle round = add("round"), other = add("other");
-  int shown = 0;
-  host.tools().onInfo = [&] { ++shown; };
-  const AIToolInfoVariable both[] = {kInfoDocX, kInfoDocY, kInfoEnd}, unknown[] = {kInfoDocX, 99, kInfoEnd};
-  const std::vector<AIToolInfoVariable> endless(kMaxInfoVariables + 1, kInfoDocX);
-  const AIReal x = 12.5, y = -3, bad = NAN;
-  const AIReal *const values[] = {&x, &y}, *const withNull[] = {&x, nullptr}, *const withBad[] = {&x, &bad};
-  ASSERT_EQ(tools.SetToolInfoVars(round, both), kNoErr);
-  ASSERT_EQ(tools.SetToolInfoVars(other, &both[1]), kNoErr);
-  ASSERT_EQ(tools.SetToolInfoVarValues(both, values), kNoErr);
-  EXPECT_TRUE(host.tools().info().empty()) << "no tool is selected";
-  for (const AIToolInfoVariable* list : {&unknown[0], endless.data()}) {
-    EXPECT_TRUE(each(kBadParameterErr, tools.SetToolInfoVars(round, list),
-                     tools.SetToolInfoVarValues(list, nullptr)));
-  }
-  EXPECT_TRUE(each(kBadParameterErr, tools.SetToolInfoVars(round, nullptr),
-                   tools.SetToolInfoVars(nullptr, both), tools.SetToolInfoVarValues(both, withNull),
-                   tools.SetToolInfoVarValues(both, withBad), tools.SetToolInfoVarValues(both, nullptr)));
-  EXPECT_EQ(shown, 1);
-  tools.SetSelectedTool(round);
-  EXPECT_EQ(host.tools().info(), (host::ToolInfo{{kInfoDocX, 12.5}, {kInfoDocY, -3}}));
-  tools.SetSelectedTool(other);
-  EXPECT_EQ(host.tools().info(), (host::ToolInfo{{kInfoDocY, -3}}));
-}
-
-TEST_F(ToolSuitesTest, TheCursorIsOfTheManagersPlugin) {
-  std::vector<std::int32_t> asked;
-  host.onCursor = [&](const host::PluginRecord& owner, std::int32_t id) {
-    EXPECT_EQ(owner.handle, plugin);
-    asked.push_back(id);
-  };
-  AIResourceManagerHandle manager = nullptr;
-  ASSERT_EQ(user.CreateCursorResourceMgr(plugin, &manager), kNoErr);
-  EXPECT_EQ(user.SetCursor(16222, manager), kNoErr);
-  ASSERT_EQ(user.DisposeCursorResourceMgr(manager), kNoErr);
-  EXPECT_TRUE(each(kBadParameterErr, user.SetCursor(16221, nullptr), user.SetCursor(16223, manager),
-                   user.DisposeCursorResourceMgr(manager)));
-  EXPECT_EQ(asked, std::vector<std::int32_t>{16222});
-}
-
 TEST_F(ToolSuitesTest, InvalidRectanglesCoverAtLeastAPixel) {
   Pixels invalid;
   host.onInvalidate = [&](const host::OpenDocument& open, const AIRect& rect) {

@@ -80,22 +80,6 @@ TEST_F(ViewSuiteTest, EachDocumentHasOneView) {
   EXPECT_EQ(views.GetDocumentViewZoom(nullptr, &value), kNoDocumentErr);
 }
 
-TEST_F(ViewSuiteTest, ThePageIsTheActiveArtboard) {
-  const auto& documents = ACQUIRE(AIDocumentSuite);
-  host::Artboard second;
-  second.position = {500, 210, 600, 10};
-  document->editState().artboards.push_back(second);
-  document->editState().activeArtboard = 1;
-  AIDocumentSetup setup{};
-  AIRealPoint origin{};
-  EXPECT_EQ(documents.GetDocumentSetup(&setup), kNoErr);
-  EXPECT_EQ(documents.GetDocumentOrigin(&origin), kNoErr);
-  EXPECT_EQ(setup.width, 100);
-  EXPECT_EQ(setup.height, 200);
-  EXPECT_EQ(0 - origin.x, 500);  // page 0 minus the origin is the artboard's left
-  EXPECT_EQ(0 - origin.y, 10);
-}
-
 TEST_F(ViewSuiteTest, ArtboardListsAreCopies) {
   const auto& boards = ACQUIRE(AIArtboardSuite);
   AIArtboardListHandle list = nullptr;

@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 
 #include "ArtboardRef.h"
-#include "CurrentDocument.h"
 #include "Exceptions.h"
 #include "FramePlugin.h"
 #include "HMX_AIArt.h"
@@ -44,22 +43,6 @@ TEST_F(DocumentAccess, WithoutAHandleThereAreDefaultsAndNobodyIsAsked) {
   EXPECT_EQ(host.refusal().callCount(), calls);
 }
 
-TEST_F(DocumentAccess, ARefusedQuestionGivesItsDefaultAndKeepsTheCode) {
-  OpenDocument({"Schn\xC3\xA4tt"});
-  LayerEnumerator layers;
-  AILayerHandle handle = nullptr;
-  ASSERT_TRUE(layers.Next(&handle));
-  ASSERT_EQ(host.refusal().add("AI Layer Suite:GetLayerVisible"), "");
-  HMX_AILayer layer(handle);
-  EXPECT_TRUE(layer.IsVisible());
-  EXPECT_EQ(layer.lastError, kSPCanceledByHostError);
-  EXPECT_FALSE(layer.HasArt());
-  EXPECT_EQ(layer.lastError, kNoErr);
-  char title[6] = "";
-  EXPECT_EQ(layer.GetTitle(title, sizeof title), kNoErr);
-  EXPECT_STREQ(title, "Schn") << "half a character is none";
-}
-
 TEST_F(DocumentAccess, LayersAreWalkedFromTheTopByTheirProperties) {
   host::Document& document = OpenDocument({"Top", "Middle", "Bottom"});
   const auto& order = document.state().layers;
@@ -75,12 +58,6 @@ TEST_F(DocumentAccess, LayersAreWalkedFromTheTopByTheirProperties) {
   const auto second = [](AILayerHandle, void* data) { return ++*static_cast<int*>(data) == 2; };
   EXPECT_THAT(Walk({nullptr, kLayerVisible, 0, second, &offered}), ElementsAre("Bottom"));
   EXPECT_EQ(offered, 2) << "only layers that passed the masks are offered";
-}
-
-TEST_F(DocumentAccess, AWalkEndsWhereTheHostRefuses) {
-  OpenDocument({"Top", "Middle", "Bottom"});
-  ASSERT_EQ(host.refusal().add("AI Layer Suite:GetNextLayer:2"), "");
-  EXPECT_THAT(Walk({}), ElementsAre("Top", "Middle"));
 }
 
 TEST_F(DocumentAccess, ArtboardsEndWithAParameterError) {
@@ -104,16 +81,6 @@ TEST_F(DocumentAccess, ArtboardsEndWithAParameterError) {
   artboard.SetIndex(0);
   ASSERT_EQ(host.refusal().add("AI Artboard Suite:GetPosition"), "");
   EXPECT_THROW(artboard.GetRect(&rect), ParameterError);
-}
-
-TEST_F(DocumentAccess, TheCurrentDocumentAndItsScale) {
-  EXPECT_FALSE(HasDocument());
-  EXPECT_EQ(GetDocumentScale(), 1.0);
-  OpenDocument({"Layer"}).setScale(10);
-  EXPECT_TRUE(HasDocument());
-  EXPECT_EQ(GetDocumentScale(), 10.0);
-  ASSERT_EQ(host.refusal().add("AI Document Suite:GetDocumentScale"), "");
-  EXPECT_EQ(GetDocumentScale(), 1.0);
 }
 
 }  // namespace

@@ -57,29 +57,5 @@ TEST_F(LineTypeSwatch, WhatTheDocumentHasWins) {
   EXPECT_EQ(document.state().swatchGroups.size(), 1U) << "no group is made for it";
 }
 
-TEST_F(LineTypeSwatch, APaintThatIsNoCustomColourBecomesANamedSwatch) {
-  LineType type;
-  type.name = ai::UnicodeString("Pen");
-  type.color.kind = kThreeColor;
-  type.color.c.rgb = {1, 0, 0};
-  const AISwatchRef swatch = EnsureLineTypeSwatch(type, kGroup);
-  ASSERT_NE(swatch, nullptr);
-  EXPECT_EQ(FindSwatch(nullptr, type.name, kThreeColor), swatch);
-  AIColor color{};
-  EXPECT_EQ(GetSwatchColor(swatch, &color), kNoErr);
-  EXPECT_EQ(color.c.rgb.red, 1);
-}
-
-TEST_F(LineTypeSwatch, RefusalsGiveNoSwatch) {
-  for (const char* entry : {"AI Swatch Group Suite:NewGroup", "AI Swatch Group Suite:AddSwatch",
-                            "AI Custom Color Suite:NewCustomColor"}) {
-    ASSERT_EQ(host.refusal().add(entry), "");
-    LineType type = Magenta(entry);
-    EXPECT_EQ(EnsureLineTypeSwatch(type, entry), nullptr) << entry;
-    EXPECT_EQ(document.state().swatches.size(), 0U) << entry;
-    host.refusal().clear();
-  }
-}
-
 }  // namespace
 }  // namespace Vandrell::Corvane

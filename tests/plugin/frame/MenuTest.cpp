@@ -39,17 +39,4 @@ TEST_F(Menus, SubmenusAreSharedByExactName) {
   EXPECT_EQ(host.menus().groups().find(Last().group)->name, "Shared") << "a blank makes another name";
 }
 
-TEST_F(Menus, RefusalsWhileLookingCountAsNotFound) {
-  AIMenuItemHandle item = nullptr;
-  ASSERT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared", nullptr, 0, item), kNoErr);
-  for (const char* entry : {"CountMenuGroups", "GetNthMenuGroup", "GetMenuGroupName"}) {
-    ASSERT_EQ(host.refusal().add(std::string("AI Menu Suite:") + entry), "");
-    EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Shared", nullptr, 0, item), kNoErr);
-    EXPECT_NE(item, nullptr) << entry;
-    host.refusal().clear();
-  }
-  ASSERT_EQ(host.refusal().add("AI Menu Suite:AddMenuGroupAsSubMenu"), "");
-  EXPECT_EQ(EnsureSubmenu(plugin->GetPluginRef(), "Other", nullptr, 0, item), kSPCanceledByHostError);
-}
-
 }  // namespace

@@ -37,18 +37,6 @@ TEST(PluginConstruction, RegistersNameAndNotifiersAndHoldsNothing) {
   EXPECT_EQ(sSPBasic, nullptr);
 }
 
-TEST(PluginConstruction, WithoutAccessEndsAtOnceWithACode) {
-  for (const char* rule : {"SP Access Suite", "SP Access Suite:GetPluginAccess"}) {
-    host::Host host;
-    ASSERT_EQ(host.refusal().add(rule), "");
-    host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
-    const FramePlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-    EXPECT_NE(plugin.GetStartupError(), kNoErr) << rule;
-    EXPECT_EQ(host.notifiers().size(), 0U);
-    EXPECT_EQ(host.holds(), 0);
-  }
-}
-
 struct RecordingDialog : qRVADM::RVADM_NonModalDialog {
   RecordingDialog(std::string text, std::vector<std::string>& list) : name(std::move(text)), events(list) {}
   ~RecordingDialog() override { events.push_back(name + " destroyed"); }
@@ -118,23 +106,6 @@ TEST_F(PluginLife, StartupActionsRunOnceWithThoseAddedMeanwhile) {
   EXPECT_EQ(events.size(), 3U) << "the notifier is gone";
   plugin->AddStartupAction(&Second, &log);
   EXPECT_EQ(host.notifiers().size(), 5U) << "a later action needs a new one";
-}
-
-TEST(PluginFolders, AreTheHostsAsPathAndAsText) {
-  host::Folders folders;
-  folders.plugins = "/opt/app/plug-ins";
-  folders.userPlugins = "/home/user/plug-ins";
-  host::Host host({}, folders);
-  host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
-  FramePlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-  char path[32] = "untouched";
-  EXPECT_EQ(plugin.GetPluginsFolderPath(path, sizeof path), kNoErr);
-  EXPECT_STREQ(path, "/opt/app/plug-ins");
-  EXPECT_EQ(plugin.GetFolder24Path(path, 8), ErrorCode("SMAL"));
-  EXPECT_STREQ(path, "/opt/app/plug-ins");
-  ai::FilePath folder;
-  EXPECT_EQ(plugin.GetFolder24(folder), kNoErr);
-  EXPECT_EQ(folder.GetFullPath().as_UTF8(), "/home/user/plug-ins");
 }
 
 }  // namespace

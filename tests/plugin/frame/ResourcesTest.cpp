@@ -81,15 +81,4 @@ TEST_F(Resources, TheirPathIsInNormalForm) {
   }
 }
 
-TEST_F(Resources, RefusalsComeBackAsCodes) {
-  for (const char* entry : {"SP Plug-ins Suite:GetPluginFileSpecification", "AI File Path Suite:New",
-                            "AI File Path Suite:SetFromFileReference", "AI File Path Suite:GetFullPath",
-                            "AI Unicode String Suite:GetBytes"}) {
-    ASSERT_EQ(host.refusal().add(entry), "");
-    char path[kResourcePathSize] = "";
-    EXPECT_EQ(LocateResources(plugin->GetPluginRef(), path), kSPCanceledByHostError) << entry;
-    host.refusal().clear();
-  }
-}
-
 }  // namespace

@@ -1,7 +1,6 @@
 // What the host learns of a tool, and the pointer that goes with it.
 #include <sstream>
 
-#include "AIUser.h"
 #include "FramePlugin.h"
 #include "HMX_AITool.h"
 #include "IDToFile.h"
@@ -74,32 +73,6 @@ TEST_F(Tool, StandsWhereItsDataSays) {
   EXPECT_EQ(Registered(1).toolset, Registered(0).toolset);
   EXPECT_NE(Registered(2).group, Registered(0).group);
   EXPECT_NE(Registered(2).toolset, Registered(0).toolset);
-}
-
-TEST_F(Tool, ThatTheHostRefusesHasNoHandle) {
-  ASSERT_EQ(host.refusal().add("AI Tool Suite:AddTool"), "");
-  const HMX_AITool tool(plugin.get(), "tool", "Tool", 0, 1, nullptr);
-  EXPECT_EQ(tool.tool, nullptr);
-  EXPECT_EQ(host.tools().all().size(), 0U);
-}
-
-TEST_F(Tool, RecordsOfStrangersAndUnknownToolsAreRefused) {
-  const AIAddToolData plain;
-  AIAddToolData noGroup, noToolset;
-  noGroup.sameGroupAs = 7;
-  noToolset.sameToolsetAs = -1;
-  AIToolHandle tool = nullptr;
-  const SPPluginRef self = plugin->GetPluginRef();
-  const auto stranger = reinterpret_cast<SPPluginRef>(&host);
-  const AIErr codes[] = {sAITool->AddTool(stranger, "tool", &plain, 0, &tool),
-                         sAITool->AddTool(self, nullptr, &plain, 0, &tool),
-                         sAITool->AddTool(self, "tool", nullptr, 0, &tool),
-                         sAITool->AddTool(self, "tool", &noGroup, 0, &tool),
-                         sAITool->AddTool(self, "tool", &noToolset, 0, &tool),
-                         sAITool->AddTool(self, "tool", &plain, 0, nullptr)};
-  for (const AIErr code : codes) EXPECT_EQ(code, kBadParameterErr) << &code - codes;
-  EXPECT_EQ(tool, nullptr);
-  EXPECT_EQ(host.tools().all().size(), 0U);
 }
 
 TEST_F(Tool, ThePointerIsAPictureOfThePlugin) {

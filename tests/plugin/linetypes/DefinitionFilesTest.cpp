@@ -11,7 +11,6 @@
 #include "LoadVisibleLineTypes.h"
 #include "ParseLineType.h"
 #include "PresetsFolder.h"
-#include "ShownNames.h"
 #include "WriteCustomLineTypes.h"
 
 namespace Vandrell::Corvane {
@@ -115,22 +114,6 @@ TEST_F(DefinitionFiles, TheStandardFileIsReadWholeOrNamedAsTheFault) {
     EXPECT_FALSE(LoadStandardLineTypes(groups, defaultGroup, error));
     EXPECT_EQ(error, isFolder ? kDefinitionFileCorruptText : kDefinitionFileMissingText);
   }
-}
-
-TEST_F(DefinitionFiles, ACustomFileCutAnywhereGivesWhatStandsBeforeTheCutOrNothing) {
-  WriteCustomLineTypes(GroupOf({"A"}));
-  const std::string whole = ReadCustom();
-  EXPECT_EQ(whole.substr(0, 57), "{\n    \"Version\": \"1\",\n    \"Groups\": {\n        \"Custom\": [");
-  for (std::size_t size = 0; size + 2 < whole.size(); ++size) {  // a line feed ends the file
-    WriteCustom(whole.substr(0, size));
-    EXPECT_EQ(CustomNames(false), Names()) << size;
-  }
-  for (const char* file : {R"({"Groups":{"Custom":[7]}})", R"({"Groups":{}})", "[]"}) {
-    WriteCustom(file);
-    EXPECT_EQ(CustomNames(false), Names()) << file;
-  }
-  WriteCustom(R"({"Groups":{"Custom":[{},)" + LineTypeJSON("A") + R"(,7,)" + LineTypeJSON("B") + "]}}");
-  EXPECT_EQ(CustomNames(false), Names{"A"});
 }
 
 TEST_F(DefinitionFiles, NamesComeBackAsTheyWereWritten) {
@@ -240,28 +223,6 @@ TEST_F(DefinitionFiles, ThePresetsFolderIsOpenToAllUsersOrThereIsNone) {
   EXPECT_EQ(CustomNames(false), Names());
   EXPECT_FALSE(WriteCustomLineTypes(GroupOf({"A"})));
   EXPECT_EQ(messages, Names{kPresetsFolderMissingText});
-}
-
-TEST_F(DefinitionFiles, ShownNamesAreThoseStoredOrTheStandardOnes) {
-  LineTypeGroup standard = GroupOf({"A", "B"}), other = standard;
-  standard.name = kStandardGroup;
-  other.name = "Other";
-  Names names;
-  ReadShownNames(standard, names);
-  EXPECT_EQ(names, (Names{"A", "B"}));
-  ReadShownNames(other, names);
-  EXPECT_EQ(names, Names());
-  const std::pair<std::string, Names> stored[] = {
-      {"", {}}, {"B", {"B"}}, {"|x||", {"", "x", "", ""}}, {Repeated("y", 5000), {Repeated("y", 4095)}}};
-  for (const auto& [text, expected] : stored) {
-    StoreShown(kStandardGroup, text);
-    ReadShownNames(standard, names);
-    EXPECT_EQ(names, expected);
-  }
-  EXPECT_TRUE(WriteShownNames("Other", {"B", "C|D"}));
-  EXPECT_EQ(Shown("Other"), "B|C|D");
-  ASSERT_EQ(host.refusal().add("AI Preference Suite:PutStringPreference"), "");
-  EXPECT_FALSE(WriteShownNames("Other", {}));
 }
 
 TEST_F(DefinitionFiles, ThePaletteListsWhatIsChosenOnceAndInOrder) {

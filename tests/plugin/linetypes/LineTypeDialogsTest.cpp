@@ -65,7 +65,6 @@ class LineTypeDialogs : public LineTypeFiles {
     }
     throw std::runtime_error(std::string("no button for ") + tip);
   }
-  static void Click(QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }
   static void SelectGroup(const QDialog& dialog, const char* name) {
     QListWidget& list = List(dialog, kGroups);
     const QRect row = list.visualItemRect(list.findItems(name, Qt::MatchExactly).at(0));
@@ -185,43 +184,6 @@ TEST_F(LineTypeDialogs, TicksAreStoredByOKAlone) {
   EXPECT_TRUE(Prefer([&](QDialog& dialog) { act(dialog, Qt::Key_Return); }));
   EXPECT_EQ(Shown("Standard"), "Through Cut|Crease");
   EXPECT_EQ(Shown("Custom"), "A|B");
-}
-
-TEST_F(LineTypeDialogs, LineTypesAreMadeEditedAndDeleted) {
-  EXPECT_TRUE(Prefer([this](QDialog& dialog) {
-    SelectGroup(dialog, "Custom");
-    QAbstractButton& remove = Icon(dialog, "Delete Custom Line Type");
-    EXPECT_FALSE(remove.isEnabled());
-    for (const char* name : {"A", "B", "A", "C", "Crease"}) {  // one is taken
-      TypeName(name, Qt::Key_Return);
-      Click(Icon(dialog, "New Custom Line Type"));
-    }
-    TypeName("D", Qt::Key_Escape);
-    Click(Icon(dialog, "New Custom Line Type"));
-    EXPECT_EQ(Rows(dialog), (Names{"A", "B", "C", "Crease"}));
-    ToggleType(dialog, 2);
-    TypeName("B2", Qt::Key_Return);
-    ClickType(dialog, 1, true);
-    TypeName("C2", Qt::Key_Return);
-    ClickType(dialog, 2, true);
-    EXPECT_EQ(Rows(dialog), (Names{"A", "B2", "(C2)", "Crease"}));
-    ClickType(dialog, 0);
-    Click(remove);
-    EXPECT_EQ(Rows(dialog), (Names{"B2", "(C2)", "Crease"}));
-    QTest::keyClick(&dialog, Qt::Key_Return);
-  }));
-  EXPECT_EQ(CustomNames(), (Names{"B2", "C2", "Crease"}));
-  EXPECT_EQ(Shown("Custom"), "B2|Crease");
-  const std::string before = ReadCustom();
-  EXPECT_FALSE(Prefer([](QDialog& dialog) {
-    SelectGroup(dialog, "Custom");
-    EXPECT_EQ(Rows(dialog), (Names{"B2", "(C2)", "Crease"}));
-    for (int left = 3; left > 0; --left) Click(Icon(dialog, "Delete Custom Line Type"));  // from the last one
-    EXPECT_EQ(Rows(dialog), Names());
-    EXPECT_FALSE(Icon(dialog, "Delete Custom Line Type").isEnabled());
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-  }));
-  EXPECT_EQ(ReadCustom(), before);
 }
 
 TEST_F(LineTypeDialogs, WhatWasNotReadIsNotReplaced) {

@@ -72,23 +72,6 @@ TEST_F(LineTypeLayers, AReservedLayerMovesWithAllThatItIs) {
   EXPECT_EQ(document.art(lower), nullptr);
 }
 
-TEST_F(LineTypeLayers, WhatTheHostRefusesEndsIt) {
-  for (const char* entry : {"AI Layer Suite:InsertLayer:2", "AI Art Suite:DuplicateArt:1",
-                            "AI Layer Suite:DeleteLayer:2", "AI Layer Suite:SetLayerTitle:1"}) {
-    const auto drawing = std::make_shared<host::Document>();
-    host.documents().open(drawing, "row");
-    for (const char* title : {"X", "Lumenfold"}) {
-      drawing->editLayer(drawing->insertLayer(0, kPlaceBelowAll)).title = title;
-    }
-    ASSERT_EQ(host.refusal().add(entry), "");
-    EXPECT_NE(CreateLineTypeLayers({"A", "B"}), kNoErr) << entry;
-    host.refusal().clear();
-    EXPECT_EQ(CreateLineTypeLayers({"A", "B"}), kNoErr) << entry << ": it can be done again";
-    EXPECT_EQ(drawing->layer(drawing->state().layers[0])->title, "Lumenfold") << entry;
-    host.documents().close(*drawing);
-  }
-}
-
 TEST_F(LineTypeLayers, ArtIsRecognisedByItsStrokeAlone) {
   addLayers({"Layer 1"});
   const host::ArtId path = add(kPathArt, root(0));

@@ -36,13 +36,6 @@ const std::string kText =
     "/* a */ Group.Key : \"first \"+\n \"second\" # b\n\"A sentence\\.\" = \"Ein\\tSatz\\056\" ; c\n"
     "..x : a\\101\n*.y=b\nlast : \"end";
 
-TEST(Hostile, CutTextsKeepTheDatabaseSound) {
-  testing::internal::CaptureStderr();
-  for (std::size_t size = 0; size <= kText.size(); ++size)
-    EXPECT_EQ(WhatIsUnsound(*DatabaseOf(kText.substr(0, size))), nullptr) << size;
-  EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "a cut file is at its end";
-}
-
 // Runs `work` again and again, each time with one allocation more, until none fails.
 template <typename Work>
 void ExpectSurvival(const Work& work) {

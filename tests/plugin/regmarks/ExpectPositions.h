@@ -8,11 +8,12 @@
 
 namespace Vandrell::Corvane {
 
-inline void ExpectPositions(const PositionList& actual, const PositionList& expected) {
+inline void ExpectPositions(const PositionList& actual, const PositionList& expected,
+                            double tolerance = 1e-9) {
   EXPECT_EQ(actual.size(), expected.size());
   for (std::size_t i = 0; i < std::min(actual.size(), expected.size()); ++i) {
-    EXPECT_NEAR(actual[i].x, expected[i].x, 1e-9) << "x of position " << i;
-    EXPECT_NEAR(actual[i].y, expected[i].y, 1e-9) << "y of position " << i;
+    EXPECT_NEAR(actual[i].x, expected[i].x, tolerance) << "x of position " << i;
+    EXPECT_NEAR(actual[i].y, expected[i].y, tolerance) << "y of position " << i;
   }
 }
 

@@ -121,30 +121,6 @@ TEST(PlaceRegmarks, ReplacesTheMarksOfAnEarlierPlacement) {
   EXPECT_EQ(drawing.marks().size(), 5U);
 }
 
-TEST(PlaceRegmarks, HandsOnWhatTheHostRefuses) {
-  const struct {
-    const char* rule;
-    std::uint32_t action;
-    PositionList marks;
-  } cases[] = {{"AI Art Suite:NewArt:3", kCornerMarks, {{373.46, 90}, {90, 510}}},
-               {"AI Document Suite:GetDocumentSetup", kAutoMarks, {}},
-               {"AI Document Suite:GetDocumentOrigin", kAutoMarks, {}},
-               {"AI Document View Suite:GetDocumentViewBounds", kAutoMarks, {}},
-               {"AI Document View Suite:SetDocumentViewZoom", kAutoMarks, {}},
-               {"AI Artboard Suite:GetArtboardList", kEdgeRing, {}},
-               {"AI Artboard Suite:GetPosition", kEdgeRing, {}}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.rule);
-    Drawing drawing;
-    drawing.addRectangle(100, 100, 400, 500);
-    drawing.view().setZoom(20);
-    ASSERT_EQ(drawing.host.refusal().add(c.rule), "");
-    std::int32_t failures = 0;
-    EXPECT_EQ(Place(c.action, 10, failures), kSPCanceledByHostError);
-    ExpectPositions(drawing.marks(), c.marks);
-  }
-}
-
 // Sizes that only a preference file can hold.
 TEST(PlaceRegmarks, EndsForSizesThatMakeNoSense) {
   const double infinity = std::numeric_limits<double>::infinity();
@@ -162,31 +138,6 @@ TEST(PlaceRegmarks, EndsForSizesThatMakeNoSense) {
         EXPECT_EQ(result, kNoErr);
         EXPECT_TRUE(drawing.marks().empty());
       }
-    }
-  }
-}
-
-// Whatever call the host refuses, the next placement finds nothing broken. What lies between the first calls
-// and the last is point tests.
-TEST(PlaceRegmarks, SurvivesTheRefusalOfAnyCall) {
-  constexpr std::uint64_t kEnds = 40;
-  for (const std::uint32_t action : {kCornerMarks, kAutoMarks, kEdgeRing}) {
-    std::uint64_t calls = 1;  // counted in round 0, where none is refused
-    for (std::uint64_t call = 0; call <= calls;
-         call += call == kEnds && calls > 2 * kEnds ? calls - 2 * kEnds : 1) {
-      SCOPED_TRACE(testing::Message() << "action " << action << ", call " << call << " of " << calls);
-      Drawing drawing({0, 200, 200, 0});
-      drawing.addRectangle(90, 90, 110, 110);
-      std::int32_t failures = 0;
-      host::Refusal& refusal = drawing.host.refusal();
-      const std::uint64_t before = refusal.callCount();
-      if (call > 0) refusal.armNth(call);
-      Place(action, 10, failures);
-      if (call == 0) calls = refusal.callCount() - before;
-      EXPECT_EQ(refusal.refused().size(), call == 0 ? 0U : 1U);
-      refusal.clear();
-      EXPECT_EQ(Place(action, 10, failures), kNoErr);
-      EXPECT_FALSE(drawing.marks().empty());
     }
   }
 }

@@ -145,30 +145,5 @@ TEST(AddRegmark, PutsTheNextMarkOnTopOfTheSameLayer) {
   ExpectPositions(drawing.marks(), {kCenter, {300, 400}});
 }
 
-TEST(AddRegmark, HandsOnWhatTheHostRefuses) {
-  struct Case {
-    const char* rule;
-    std::uint32_t shape;
-    AIErr result;
-    std::size_t left;  // pieces of art that stay on the mark layer
-  };
-  const Case cases[] = {
-      {"AI Layer Suite:GetLayerByTitle", kRoundRegmark, kCannotAddRegmarkErr, 0},
-      {"AI Unicode String Suite:New:1", kRoundRegmark, kCannotAddRegmarkErr, 0},
-      {"AI Path Suite:SetPathSegments:3", kRoundRegmark, kSPCanceledByHostError, 1},
-      {"AI Path Suite:SetPathClosed", kRoundRegmark, kNoErr, 1},
-      {"AI Art Suite:SetArtName", kRoundRegmark, kSPCanceledByHostError, 1},
-      {"AI Path Suite:SetPathSegments:1", kCrossRegmark, kSPCanceledByHostError, 1},  // of the square
-      {"AI Path Suite:SetPathSegments:2", kCrossRegmark, kNoErr, 1},  // of the bars, painted all the same
-      {"AI Art Suite:NewArt:3", kCrossRegmark, kBadParameterErr, 1},  // no bars to paint
-  };
-  for (const Case& c : cases) {
-    Drawing drawing;
-    ASSERT_EQ(drawing.host.refusal().add(c.rule), "");
-    EXPECT_EQ(AddRegmark(Style(c.shape, true, true), kCenter), c.result) << c.rule;
-    EXPECT_EQ(drawing.artOf("Regmark").size(), c.left) << c.rule;
-  }
-}
-
 }  // namespace
 }  // namespace Vandrell::Corvane

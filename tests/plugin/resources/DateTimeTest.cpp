@@ -89,14 +89,6 @@ TEST_F(DateTimes, FollowTheirFormats) {
   }
 }
 
-TEST_F(DateTimes, CountHoursByTwelve) {
-  const std::pair<int, const char*> table[] = {{0, "12 AM"},  {1, "1 AM"},  {11, "11 AM"},
-                                               {12, "12 PM"}, {13, "1 PM"}, {23, "11 PM"}};
-  for (const auto& [hour, text] : table) {
-    EXPECT_STREQ(FormatDateTime("%h %a", {1, 1, 2000, hour, 0, 0}), text);
-  }
-}
-
 TEST_F(DateTimes, AreCutToTheirBuffer) {
   EXPECT_EQ(std::string(FormatDateTime("%999999999999Y", {1, 1, 2000, 0, 0, 0})).size(), 511U);
   EXPECT_EQ(std::string(FormatDateTime("%.999999999999Y", {1, 1, 2000, 0, 0, 0})).size(), 511U);
@@ -109,14 +101,6 @@ TEST_F(DateTimes, TakeTheirFormatsFromTheLanguage) {
   EXPECT_STREQ(FormatDateLong(1, 3, 1998), "Sonntag, 1st März 1998");
   EXPECT_STREQ(FormatTimeShort(1, 2, 3), "");
   EXPECT_EQ(FormatTimeLong(1, 2, 3), nullptr);
-}
-
-TEST(DateTimeDefaults, AreTheBeginOf1980) {
-  int day = 0, month = 0, year = 0, hour = 9, minute = 9, second = 9;
-  DefaultDate(nullptr, day, month, year);
-  DefaultTime(nullptr, hour, minute, second);
-  EXPECT_EQ(std::to_string(day) + "." + std::to_string(month) + "." + std::to_string(year), "1.1.1980");
-  EXPECT_EQ(hour + minute + second, 0);
 }
 
 TEST(CopyQString, IsUTF8) {

@@ -60,21 +60,6 @@ TEST_F(Sentences, StandForThemselvesWithoutATranslation) {
   EXPECT_EQ(LookupResource(nullptr, nullptr, nullptr), nullptr);
 }
 
-TEST_F(Sentences, FallBackOnTheDefaults) {
-  Texts("Defaults.Hello : Hi  Defaults.Bye : Ciao  Bye : Servus  Defaults.Group.Word : Wort");
-  EXPECT_STREQ(Localize("Hello"), "Hi");
-  EXPECT_STREQ(Localize("Bye"), "Servus");
-  EXPECT_STREQ(LocalizeItemText("Group", "Word"), "Wort");
-}
-
-TEST_F(Sentences, MayBeGrouped) {
-  Texts(R"(Cut.Deep.Line\. : Schnitt   Line\. : Linie)");
-  EXPECT_STREQ(LocalizeItemText("Cut.Deep", "Line."), "Schnitt");
-  EXPECT_STREQ(LocalizeItemText(nullptr, "Line."), "Linie");
-  const std::string longest(2000, 'x');
-  EXPECT_EQ(LocalizeItemText("Cut", longest.c_str()), longest.c_str());
-}
-
 TEST_F(Sentences, ShareOneBufferAndAreCutToIt) {
   const std::string fits(8191, 'x'), tooLong = std::string(8190, 'x') + "\xC3\xA9";
   Texts("Hello : Hallo  Bye : Servus  fits : " + fits + "  long : " + tooLong);

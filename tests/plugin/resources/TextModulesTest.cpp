@@ -23,24 +23,6 @@ TEST_F(TextModules, LaterModulesAndLocalisedFilesComeFirst) {
   EXPECT_STREQ(Localize("nowhere"), "nowhere");
 }
 
-TEST_F(TextModules, TheUsersLanguageChoosesTheFile) {
-  Write("corvane.asc", "word:en");
-  for (const char* language : {"de", "pt_BR", "pt_PT"}) {
-    Write(std::string(language) + ".lproj/corvane.asc", std::string("word:") + language);
-  }
-  const std::pair<const char*, const char*> table[] = {
-      {"de", "de"},         {"de_CH.UTF-8", "de"}, {"pt", "pt_BR"}, {"pt-BR", "pt_BR"}, {"pt_PT", "pt_PT"},
-      {"pt-BR-x", "pt_BR"}, {"fr:de", "de"},       {"en:de", "en"}, {"fr", "en"},       {"", "en"},
-      {"C", "en"}};
-  for (const auto& [language, word] : table) {
-    FreeTextState();
-    Start(language);
-    EXPECT_STREQ(Localize("word"), word) << language;
-    EXPECT_STREQ(std::getenv("RVLANG"),
-                 std::string(language) == "pt" || std::string(language) == "pt-BR" ? "pt_BR" : "Bundle");
-  }
-}
-
 TEST_F(TextModules, AreReadOnce) {
   Write("corvane.asc", "word:first");
   Start();

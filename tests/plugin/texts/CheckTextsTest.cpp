@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "ScratchFolder.h"
-#include "TextFaults.h"
 
 namespace texts {
 namespace {
@@ -112,15 +111,6 @@ TEST(CheckTexts, FindsFaultsOfOtherFiles) {
                   "de.lproj/rv.asc:1: the text of \"Date.Formats.Short\" is no format of a date or time",
                   "fr.lproj/rv.asc: cannot be read",
                   "fr.lproj/rv.asc: the text of \"Date.Formats.Short\" is missing; dates asks for it"));
-}
-
-TEST(CheckTexts, FindsFaultsOfKeys) {
-  EXPECT_THAT(TextFaults({AskedKey::Kind::Alert, "100 %", "a.cpp:1"}, kEnglish, "100 %"),
-              ElementsAre("has a key that is no printf format"));
-  const SetOfTexts texts;
-  const std::string key(kKeySize, 'k');
-  texts.scratch.write("corvane.asc", kEnglishTexts + key + " : x");
-  EXPECT_THAT(texts.Findings(), Contains("corvane.asc:6: the text of \"" + key + "\" has too long a key"));
 }
 
 }  // namespace

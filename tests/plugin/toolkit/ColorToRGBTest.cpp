@@ -63,36 +63,5 @@ TEST_F(ColorToRGBTest, TintsWeakenInksOnly) {
   ExpectComponents(Shown(lab), {65535, 0, 0}, "the red of sRGB", 600);
 }
 
-TEST_F(ColorToRGBTest, FailuresLeaveTheColorAlone) {
-  const AIColor known = CustomPaint(Definition(kCustomFourColor));
-  AIColor stale = known;
-  stale.c.c.color = reinterpret_cast<AICustomColorHandle>(std::uintptr_t{12345});
-  const struct {
-    AIColor paint;
-    const char* refuse;
-    AIErr code;
-  } cases[] = {{stale, "", ErrorCode("!IMP")},
-               {Paint(kCustomColor), "", ErrorCode("!IMP")},
-               {CustomPaint(Definition(static_cast<AICustomColorTag>(8))), "", ErrorCode("!IMP")},
-               {known, "AI Custom Color Suite:GetCustomColor", ErrorCode("!IMP")},
-               {known, "AI Color Conversion Suite:ConvertSample", kSPCanceledByHostError},
-               {Paint(kFourColor, 0, 0, kNaN), "", kBadParameterErr},
-               {CustomPaint(Definition(kCustomLabColor, 0, kNaN)), "", kBadParameterErr}};
-  for (const auto& c : cases) {
-    const std::string where = std::to_string(&c - cases);
-    if (*c.refuse != '\0') {
-      ASSERT_EQ(host.refusal().add(c.refuse), "");
-    }
-    RGBSample rgb{7, 7, 7};
-    EXPECT_EQ(ColorToRGB(c.paint, rgb, false), c.code) << where;
-    EXPECT_EQ(rgb, (RGBSample{7, 7, 7})) << where;
-    AIRGBColor shown = kUntouched;
-    EXPECT_EQ(ColorToRGBColor(c.paint, shown, false), c.code) << where;
-    EXPECT_EQ(ColorToGamutRGBColor(c.paint, shown), c.code) << where;
-    ExpectComponents(shown, kUntouched, where);
-    host.refusal().clear();
-  }
-}
-
 }  // namespace
 }  // namespace qRVADM

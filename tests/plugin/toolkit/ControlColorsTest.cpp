@@ -1,10 +1,6 @@
 #include "ControlColors.h"
 
-#include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
 #include <QSpinBox>
 #include <cstring>
 
@@ -52,19 +48,6 @@ TEST_F(ControlColorsTest, CodesOfThePalette) {
     EXPECT_EQ(Of(label, 112),
               RVADMQtManager::QtManager::GetControlColor(&label, RVADMQtManager::kControlBackground, on));
   }
-}
-
-TEST_F(ControlColorsTest, RolesThatAreLeftOpenAreThoseOfFieldsOrWindows) {
-  EXPECT_TRUE(qRVADM::IsField(QPlainTextEdit()));
-  EXPECT_TRUE(qRVADM::IsField(QLineEdit()));
-  EXPECT_TRUE(qRVADM::IsField(QDoubleSpinBox()));
-  EXPECT_TRUE(qRVADM::IsField(QListView()));
-  EXPECT_FALSE(qRVADM::IsField(QComboBox()));
-  EXPECT_EQ(qRVADM::TextRole(P::Link, P::NoRole, true), P::Link);
-  EXPECT_EQ(qRVADM::TextRole(P::NoRole, P::Base, false), P::Text);
-  EXPECT_EQ(qRVADM::TextRole(P::NoRole, P::NoRole, true), P::Text);
-  EXPECT_EQ(qRVADM::TextRole(P::NoRole, P::Window, true), P::WindowText);
-  EXPECT_EQ(qRVADM::BackgroundRole(P::NoRole, false), P::Window);
 }
 
 TEST_F(ControlColorsTest, WarningsAreRedOnLightAndDark) {

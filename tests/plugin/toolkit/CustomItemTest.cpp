@@ -100,27 +100,5 @@ TEST_F(CustomItemTest, EveryEventIsATracker) {
   }
 }
 
-TEST_F(CustomItemTest, MayBeDeletedByItsOwnTrack) {
-  const std::function<void()> acts[] = {
-      [&] { Click(dialog, *item); },
-      [&] { QTest::mouseDClick(item, Qt::LeftButton, {}, QPoint(1, 1)); },
-      [&] { QTest::mouseRelease(item, Qt::RightButton, {}, QPoint(1, 1)); },
-      [&] { QTest::mouseMove(dialog.windowHandle(), at + QPoint(2, 2)); },
-      [&] { Key(kDown, Qt::Key_Escape); },  // an event that came to nobody would end the dialog
-      [&] { Key(kUp, Qt::Key_Space); },
-      [&] { Wheel(); }};
-  delete item;
-  for (const auto& act : acts) {
-    item = new Watcher(dialog, host);
-    const QPointer<QWidget> alive(item);
-    item->show();
-    item->setMouseTracking(true);
-    item->deleteInTrack = true;
-    act();
-    EXPECT_FALSE(alive) << &act - acts;
-    EXPECT_TRUE(dialog.isVisible()) << &act - acts;
-  }
-}
-
 }  // namespace
 }  // namespace qRVADM

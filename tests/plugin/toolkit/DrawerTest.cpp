@@ -99,16 +99,5 @@ TEST_F(DrawerTest, LeavesNoPainterBehindWhenDrawingThrows) {
   EXPECT_EQ(host.contexts().depth(), 0U);
 }
 
-TEST_F(DrawerTest, TextStaysInItsBox) {
-  const auto drawn = [this](const char* text) {
-    item.draw = [text](IADMDrawer& drawer) { drawer.DrawTextInBox(text, {4, 0, 30, 20}); };
-    return Grab(item, 1);
-  };
-  const QImage blank = drawn("");
-  const QImage elided = drawn("WWWWWWWWWWWWWWWW");
-  EXPECT_FALSE(elided == blank);
-  EXPECT_TRUE(elided.copy(30, 0, 10, 20) == blank.copy(30, 0, 10, 20));
-}
-
 }  // namespace
 }  // namespace qRVADM

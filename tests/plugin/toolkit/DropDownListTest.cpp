@@ -62,32 +62,6 @@ TEST_F(DropDownListTest, WheelGoesToWhatLiesBehind) {
   EXPECT_EQ(list->currentIndex(), 0);
 }
 
-TEST_F(DropDownListTest, EntriesFindTheirRows) {
-  RVADM_ComboEntry* cross = list->FindEntry("Cross");
-  EXPECT_EQ(list->FindEntry("round"), list->GetEntry(2)) << "exactly";
-  EXPECT_EQ(list->FindEntry("Rou"), nullptr);
-  EXPECT_EQ(list->GetEntry(3), nullptr);
-  list->addItem("foreign");
-  EXPECT_EQ(list->GetEntry(3), nullptr);
-  delete list->GetEntry(0);
-  cross->SetText("a\xC3\xA4", true);
-  EXPECT_EQ(list->itemText(0), QString::fromUtf8("a\xC3\xA4"));
-  char text[8];
-  list->Clear();
-  EXPECT_EQ(list->count(), 1) << "what is no entry stays";
-  list->Clear();
-  // An entry whose row Qt took has nothing to act on.
-  auto* gone = new RVADM_ComboEntry(list, "gone", false);
-  list->removeItem(1);
-  gone->SetText("x", false);
-  gone->SetPicture(-1);
-  gone->Select(true);
-  gone->GetText(text, sizeof text, true);
-  EXPECT_STREQ(text, "");
-  delete gone;
-  EXPECT_EQ(list->itemText(0), "foreign");
-}
-
 TEST_F(DropDownListTest, PicturesFollowTheTheme) {
   bundle.Write("png/p17310.png", PNGPicture(16, 16, Qt::red));
   bundle.Write("png/p18310.png", PNGPicture(16, 16, Qt::blue));

@@ -44,14 +44,4 @@ TEST(IDToFileTest, OtherLinesAndNamesThatLeadOutMakeNone) {
   }
 }
 
-// Reading them with time that grows by the square would take longer than a test may.
-TEST(IDToFileTest, TextsAndLinesOfMegabytesMakeTheirEntries) {
-  std::string lines;
-  for (int id = 0; id < 200000; ++id) lines += std::to_string(id) + ".png a.png\n";
-  for (const std::string& text : {lines, lines + "\r" + lines, std::string(1 << 22, ' ') + "7.png a.png",
-                                  std::string(1 << 22, '1') + "\n7.png a.png"}) {
-    EXPECT_EQ(PathOf(IDToFile(text), 7), "png/a.png");
-  }
-}
-
 }  // namespace

@@ -21,14 +21,6 @@ class IconsTest : FineDisplay, public ToolkitTest {
   }
 };
 
-TEST_F(IconsTest, FollowTheHostsBrightness) {
-  Write("17700", Qt::green);
-  Write("18700", Qt::blue);
-  EXPECT_EQ(ColorOf(16700), QColor(Qt::green));
-  host::setTheme(host::Theme::Dark);
-  EXPECT_EQ(ColorOf(16700), QColor(Qt::blue));
-}
-
 TEST_F(IconsTest, HaveBothResolutionsAndNeedTheSingleOne) {
   Write("17710", Qt::green);
   Write("17710@2x", Qt::blue, 32);

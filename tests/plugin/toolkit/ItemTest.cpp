@@ -1,6 +1,5 @@
 // What every item offers, on a label and a text field.
 #include <array>
-#include <stdexcept>
 #include <string>
 
 #include "DialogWorld.h"
@@ -123,34 +122,6 @@ TEST_F(ItemTest, NotifyOfBoundsAndMoveByTheirSides) {
   EXPECT_EQ(place(&RVADM_Item::PlaceAbove, 1026, kDefaultGap), QPoint(112, 87));
   EXPECT_EQ(place(&RVADM_Item::PlaceRightOf, 1536, kDefaultGap), QPoint(124, 102));
   EXPECT_EQ(place(&RVADM_Item::PlaceLeftOf, 1024, 10), QPoint(82, 102));
-}
-
-TEST_F(ItemTest, MisspeltWaysToTheDialogThrow) {
-  TestDialog dialog;
-  auto* label = new RVADM_Label(&dialog, "x", false);
-  const auto messageOf = [](const std::function<void()>& act) -> std::string {
-    try {
-      act();
-    } catch (const std::runtime_error& error) {
-      return error.what();
-    }
-    return "";
-  };
-  EXPECT_EQ(
-      messageOf([&] { label->ConnectToDialog(SIGNAL(linkActivated(QString)), SLOT(OnNothing()), false); }),
-      "Connection to dialog slot failed!");
-  EXPECT_EQ(messageOf([&] { label->CallDialogSlot("OnNothing"); }), "Meta-call to dialog slot failed!");
-  EXPECT_EQ(dialog.currentItem, nullptr);
-  auto* plain = new RVADM_CustomItem(&dialog);
-  EXPECT_EQ(messageOf([&] { plain->SetText("x", false, false); }), "Call to SetTextInt() failed!");
-  EXPECT_EQ(TextOf(*plain, 32, true), "");
-
-  dialog.react = [&] {
-    EXPECT_EQ(dialog.currentItem, label);
-    throw std::logic_error("handler");
-  };
-  EXPECT_THROW(label->CallDialogSlot("OnLabelClicked"), std::logic_error);
-  EXPECT_EQ(dialog.currentItem, nullptr);
 }
 
 }  // namespace

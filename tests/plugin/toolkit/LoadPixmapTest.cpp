@@ -28,12 +28,6 @@ class LoadPixmapTest : public ToolkitTest {
   static void WriteSVG(int id, const QColor& color = Qt::red) {
     bundle.Write("svg/s" + std::to_string(id) + ".svg", SVGPicture("viewBox=\"0 0 40 40\"", color));
   }
-  // Suite calls that it takes to get the picture.
-  std::uint64_t CallsFor(int id, double ratio = 1) {
-    const std::uint64_t before = host.refusal().callCount();
-    EXPECT_FALSE(LoadPixmap(id, 2, ratio).isNull()) << id;
-    return host.refusal().callCount() - before;
-  }
 };
 
 TEST_F(LoadPixmapTest, PicksVersionAndResolution) {
@@ -77,20 +71,6 @@ TEST_F(LoadPixmapTest, SVGIsDrawnInEveryRatioOnNothing) {
     EXPECT_EQ(pixmap.toImage().pixelColor(3, 3), QColor(Qt::red));
     EXPECT_EQ(pixmap.toImage().pixelColor(size.width() - 2, 3).alpha(), 0);
   }
-}
-
-TEST_F(LoadPixmapTest, SmallPicturesAreKeptUntilQtDropsThem) {
-  WritePNG(16500, kLight, 128, 128);
-  WritePNG(16501, kLight, 129, 128);
-  WriteSVG(25520);
-  for (const int id : {16500, 16501, 25520}) {
-    EXPECT_GT(CallsFor(id), 0U);
-    EXPECT_EQ(CallsFor(id) == 0, id != 16501) << id;
-    QPixmapCache::clear();
-    EXPECT_GT(CallsFor(id), 0U);
-  }
-  EXPECT_GT(CallsFor(25520, 2), 0U) << "another ratio is another picture";
-  EXPECT_EQ(CallsFor(25520), 0U);
 }
 
 TEST_F(LoadPixmapTest, NothingComesOfBadRatiosOrWithoutAPlugin) {

@@ -60,21 +60,6 @@ TEST_F(LoadResourceTest, LinksStayInTheFolder) {
   }
 }
 
-TEST_F(LoadResourceTest, RefusalsGiveNothing) {
-  bundle.Write("data20", std::string(40000, 'x'));
-  for (const char* entry : {"SP Plug-ins Suite:GetPluginFileSpecification", "AI File Path Suite:New",
-                            "AI File Path Suite:SetFromFileReference", "AI File Path Suite:GetFullPath",
-                            "AI Unicode String Suite:GetBytes", "AI Data Filter Suite:NewFileDataFilter",
-                            "AI Data Filter Suite:LinkDataFilter", "AI Data Filter Suite:ReadDataFilter"}) {
-    ASSERT_EQ(host.refusal().add(entry), "");
-    EXPECT_EQ(Load(20), "") << entry;
-    host.refusal().clear();
-  }
-  ASSERT_EQ(host.refusal().add("AI Data Filter Suite:ReadDataFilter:3"), "");
-  EXPECT_EQ(Load(20).size(), 2U * 16384) << "what came before the failure";
-  EXPECT_EQ(LoadResource(nullptr, 20, nullptr), 0);
-}
-
 TEST_F(LoadResourceTest, BrightnessVersionsNeedBothFiles) {
   for (const int id : {17300, 17301, 18301, 18302}) bundle.Write("png/p" + std::to_string(id) + ".png", "x");
   for (const int id : {16300, 16301, 16302, 16303, std::numeric_limits<int>::max()}) {

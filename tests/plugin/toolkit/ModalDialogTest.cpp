@@ -1,7 +1,5 @@
 // A modal dialog from Run to its end, with handlers that behave and handlers that do not.
-#include <QGuiApplication>
 #include <QScreen>
-#include <QSizeGrip>
 #include <QTimer>
 #include <stdexcept>
 
@@ -82,26 +80,6 @@ TEST_F(ModalDialogTest, EscapeIsTheCancelButton) {
   }
 }
 
-TEST_F(ModalDialogTest, LayoutsThatChangeTheSizeComeToRest) {
-  struct Row {
-    const char* what;
-    int growth, layoutsAtLeast, layoutsAtMost;
-  };
-  const Row rows[] = {{"steady", 0, 1, 2}, {"for ever", 1, 2, 40}};
-  for (const bool resizable : {false, true}) {
-    for (const Row& row : rows) {
-      TestDialog dialog(resizable);
-      int layouts = 0;
-      dialog.layout = [&] { dialog.SetSize(200 + row.growth * ++layouts, 100); };
-      if (row.growth == 0) dialog.layout = [&] { ++layouts, dialog.SetSize(200, 100); };
-      EXPECT_EQ(
-          RunWith(dialog, [&] { QTimer::singleShot(200, &dialog, [&] { dialog.EndDialog(1, true); }); }), 1);
-      EXPECT_GE(layouts, row.layoutsAtLeast) << row.what << resizable;
-      EXPECT_LE(layouts, row.layoutsAtMost) << row.what << resizable;
-    }
-  }
-}
-
 TEST_F(ModalDialogTest, WhatThrowsLeavesNothingBehind) {
   TestDialog outer;
   outer.react = [] { throw std::runtime_error("handler"); };
@@ -127,37 +105,6 @@ TEST_F(ModalDialogTest, WhatThrowsLeavesNothingBehind) {
   resized.resize(333, 222);
   resized.Relayout();
   EXPECT_EQ(layouts, 1) << "layouts run again after one that threw";
-}
-
-TEST_F(ModalDialogTest, FrameHasItsTitlePlaceAndGrip) {
-  TestDialog dialog(true);
-  char title[16];
-  dialog.SetTitle(
-      "Gr\xC3\xB6\xC3\x9F"
-      "en",
-      false);
-  dialog.GetTitle(title, 4);
-  EXPECT_STREQ(title, "Gr");
-  dialog.SetTitle("", true);
-  EXPECT_EQ(dialog.windowTitle(), " ");
-  EXPECT_TRUE(dialog.IsResizable());
-  EXPECT_FALSE(TestDialog(false).IsResizable());
-  auto* grip = dialog.findChild<QSizeGrip*>();
-  ASSERT_NE(grip, nullptr);
-  EXPECT_EQ(grip->size(), grip->sizeHint());
-
-  dialog.Open();
-  dialog.CenterOnScreen();
-  const QRect screen = QGuiApplication::primaryScreen()->geometry();
-  const QRect frame = dialog.frameGeometry();
-  EXPECT_EQ((frame.left() + frame.right()) / 2, (screen.left() + screen.right()) / 2);
-  EXPECT_EQ((frame.top() + frame.bottom()) / 2, (screen.top() + screen.bottom()) / 2);
-  ADMRect local;
-  dialog.GetLocalRect(&local);
-  EXPECT_EQ(Width(local), dialog.width());
-  ADMPoint corner{0, 0};
-  dialog.LocalToScreenPoint(&corner);
-  EXPECT_EQ(QPoint(corner.x, corner.y), dialog.geometry().topLeft());
 }
 
 }  // namespace

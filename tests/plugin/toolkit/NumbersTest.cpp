@@ -66,6 +66,7 @@ TEST_F(NumbersTest, DimensionsAreWrittenByTheirUnits) {
 
 TEST_F(NumbersTest, WhatIsWrittenIsReadBackAsItStands) {
   for (const ADMUnits unit : kAllUnits) {
+    // Any values will do. NOLINTNEXTLINE(clang-analyzer-security.FloatLoopCounter)
     for (double value = 1e-5; value < 9e5; value *= 1.37) {
       for (const int precision : {-1, 0, 1, 6}) {
         for (const double sign : {1.0, -1.0}) {
@@ -112,14 +113,6 @@ TEST_F(NumbersTest, TypedUnitsBecomeThoseOfTheField) {
   }
   EXPECT_EQ(ConvertDimension({1, kInchUnits}, kNoUnits), 72);
   EXPECT_EQ(ConvertDimension({1, kNoUnits}, kInchUnits), 1);
-}
-
-TEST_F(NumbersTest, AHostThatRefusesLeavesNumbersWritten) {
-  for (const char* entry : {"AI User Suite:RealToString", "AI Unicode String Suite:New"}) {
-    ASSERT_TRUE(host.refusal().add(entry).empty());
-    EXPECT_EQ(FormatDimension({2.5, kMillimeterUnits}, -1).toStdString(), "2.5 mm") << entry;
-  }
-  EXPECT_EQ(ParseDimension("2.5 mm", kMillimeterUnits, 0).unit, kUnreadableUnits);
 }
 
 TEST_F(NumbersTest, RulersComeFromTheDocumentOrThePreferences) {

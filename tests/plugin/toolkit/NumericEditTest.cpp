@@ -1,7 +1,6 @@
 // Fields for numbers, with a user at keys, wheel and mouse.
 #include <QLineEdit>
 #include <QWheelEvent>
-#include <cmath>
 
 #include "DialogWorld.h"
 #include "RVADM_NumericEdit.h"
@@ -11,7 +10,6 @@
 namespace qRVADM {
 namespace {
 
-constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr Qt::KeyboardModifiers kControl = Qt::ControlModifier, kShift = Qt::ShiftModifier;
 
 class NumericEditTest : public DialogTest {
@@ -182,23 +180,6 @@ TEST_F(NumericEditTest, ReturnCommitsBeforeItPressesTheDefaultButton) {
   }
 }
 
-TEST_F(NumericEditTest, KeysThatEndTheEditingGiveThePaletteItsKeyboardBack) {
-  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
-    World world(false, true);
-    world.Start(3);
-    world.Type("7");
-    world.Key(key);
-    EXPECT_FALSE(world.edit->HasFocus());
-    EXPECT_EQ(world.Shown(), "7 mm");
-    EXPECT_EQ(world.Notified(), 1) << "and not the default button";
-    world.edit->SetKeepEmpty(true);
-    world.edit->SetText("", false, false);
-    world.edit->setFocus();
-    world.Key(key);
-    EXPECT_EQ(world.Shown(), "");
-  }
-}
-
 TEST_F(NumericEditTest, AnEmptyFieldStaysEmptyWhereItMay) {
   World world(false);
   world.edit->SetKeepEmpty(true);
@@ -224,81 +205,6 @@ TEST_F(NumericEditTest, AnEmptyFieldStaysEmptyWhereItMay) {
   EXPECT_EQ(world.Notified(), 1) << "the default button";
   world.edit->SetKeepEmpty(false);
   EXPECT_EQ(world.Shown(), "4 mm");
-}
-
-TEST_F(NumericEditTest, DecimalsAndWidthFollowTheRange) {
-  TestDialog dialog;
-  const struct {
-    int decimals;
-    double minimum, maximum, step;
-    const char* shown;
-    const char* sample;  // null: as wide as Qt has it
-  } cases[] = {{2, 0, 9, 1, "1.23", "000."},     {1, 0.01, 10000, 1, "1.2", "000000."},
-               {0, -150, 150, 1, "1", "0000"},   {-1, 0, 9, 0.01, "1.23", nullptr},
-               {-1, 0, 9, 1, "1.235", nullptr},  {-1, 0, 9, 0.5, "1.2", nullptr},
-               {0, -kInf, kInf, 1, "1", nullptr}};
-  for (const auto& one : cases) {
-    RVADM_NumericEdit edit(&dialog, false, one.decimals, one.minimum, one.maximum, one.step);
-    edit.SetValue(kNoUnits, 1.2346);
-    EXPECT_EQ(edit.GetTextInt().toStdString(), one.shown);
-    if (one.sample == nullptr) continue;
-    const int text = edit.fontMetrics().horizontalAdvance(one.sample);
-    dialog.show();
-    edit.show();
-    EXPECT_EQ(edit.findChild<QLineEdit*>()->width(), text + 5) << one.sample;
-    edit.SetUnits(kMillimeterUnits);
-    EXPECT_EQ(edit.sizeHint().width() - edit.width(), edit.fontMetrics().horizontalAdvance(" mm"));
-  }
-}
-
-TEST_F(NumericEditTest, BadInputLeavesTheNumberAlone) {
-  for (const bool immediate : {false, true}) {
-    World world(immediate);
-    world.Start(3);
-    const std::string texts[] = {std::string(1U << 20U, '9') + "x", std::string(1U << 20U, '('), "\xC3(\xFF",
-                                 "1/0", "nan"};
-    for (const std::string& text : texts) {
-      world.edit->setFocus();
-      world.edit->SetText(text.c_str(), false, false);
-      world.other->setFocus();
-      EXPECT_EQ(world.Shown(), "3 mm") << text.substr(0, 8);
-    }
-    for (const auto& [value, shown] :
-         {std::pair{std::nan(""), "3 mm"}, {kInf, "20 mm"}, {-kInf, "0.004 mm"}}) {
-      world.edit->SetValue(kMillimeterUnits, value);
-      EXPECT_EQ(world.Shown(), shown);
-    }
-    EXPECT_EQ(world.Notified(), 0) << "a program's changes are not the user's";
-  }
-}
-
-TEST_F(NumericEditTest, HandlersMayDeleteTheField) {
-  const std::function<void(World&)> actions[] = {
-      [](World& world) { world.Key(Qt::Key_Up); },
-      [](World& world) {
-        world.Wheel({5, 5});
-      },
-      [](World& world) { world.PressArrow(); },
-      [](World& world) { world.Type("4"); },
-      [](World& world) { world.Type("4"), world.Key(Qt::Key_Tab); },
-      [](World& world) { world.edit->stepUp(); },
-      [](World& world) { world.edit->SetModified(true), world.edit->SetUnits(kPointUnits); },
-      [](World& world) {
-        QInputMethodEvent typed;
-        typed.setCommitString("4");
-        QApplication::sendEvent(world.edit->findChild<QLineEdit*>(), &typed);
-      },
-  };
-  for (const bool immediate : {false, true}) {
-    for (const auto& act : actions) {
-      World world(immediate);
-      world.Start(3);
-      world.dialog.react = [&world] { delete std::exchange(world.edit, nullptr); };
-      act(world);
-      if (world.edit != nullptr) world.Key(Qt::Key_Return);
-      EXPECT_EQ(world.edit, nullptr);
-    }
-  }
 }
 
 }  // namespace

@@ -156,29 +156,6 @@ TEST_F(PaletteTest, DialogFollowsThePanelAndLayoutsComeToRest) {
   EXPECT_EQ(open.height(), 210) << "a layout is heard again after a pause";
 }
 
-TEST_F(PaletteTest, SizesAskedForWhileThePanelAppearsComeLaterAndOnce) {
-  TestPalette& open = Open();
-  open.Show(false);
-  std::vector<std::pair<int, std::size_t>> told;  // events and how many contexts are open
-  open.react = [&](int event) {
-    told.emplace_back(event, host.contexts().depth());
-    if (event != kPanelShown) return;
-    open.SetSize(250, 180);
-    open.SetSize(250, 230);
-    EXPECT_NE(PanelSize().height(), 230);
-  };
-  Panel().view->setSize({210, 150});
-  told.clear();
-  open.Show(true);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return PanelSize().height() == 230; }, 2000));
-  ASSERT_GE(told.size(), 2U);
-  EXPECT_EQ(told.front(), std::make_pair(int{kPanelShown}, std::size_t{1}));
-  for (std::size_t i = 1; i < told.size(); ++i) {
-    EXPECT_EQ(told[i].first, kPanelResized);
-    EXPECT_GE(told[i].second, 1U);
-  }
-}
-
 TEST_F(PaletteTest, HandlersMayDeleteThePaletteOrThrow) {
   const std::pair<const char*, std::function<void()>> rows[] = {
       {"shown", [&] { palette->Show(false); }},
@@ -216,39 +193,6 @@ TEST_F(PaletteTest, HandlersMayDeleteThePaletteOrThrow) {
     EXPECT_EQ(throwing.size(), PanelSize()) << "the palette works on";
     delete palette;
   }
-}
-
-TEST_F(PaletteTest, WhatTheHostRefusesDoesNoHarm) {
-  const std::pair<const char*, bool> rows[] = {
-      {"AI Panel Suite:Create", false},         {"AI Panel Suite:GetPlatformView", true},
-      {"AI Panel Suite:GetSize", true},         {"AI Panel Flyout Menu Suite:Create", true},
-      {"AI User Suite:GetUIScaleFactor", true}, {"AI Context Suite:PushAppContext", true}};
-  for (const auto& [rule, hasItems] : rows) {
-    SCOPED_TRACE(rule);
-    host.refusal().clear();
-    ASSERT_EQ(host.refusal().add(rule), "");
-    TestPalette& open = Open();
-    EXPECT_EQ(open.fields[0] != nullptr, hasItems);
-    open.SetMinimumWidth(220);
-    open.SetSize(260, 260);
-    open.SetTitle("Other", true);
-    Settle();
-    if (open.GetMenu() != nullptr) {
-      EXPECT_EQ(open.GetMenu()->AddItem("Go", false, nullptr) == 0, rule == std::string(rows[3].first));
-    }
-    EXPECT_EQ(open.IsShown(), hasItems);
-    delete palette;
-  }
-  EXPECT_TRUE(host.panels().all().empty());
-}
-
-TEST_F(PaletteTest, ThePaletteOutlivesThePanelsOfTheHost) {
-  TestPalette& open = Open();
-  sAIPanel->Destroy(Panel().handle);
-  ASSERT_FALSE(palette.isNull());
-  EXPECT_FALSE(open.IsShown());
-  open.SetSize(250, 250);
-  Settle();
 }
 
 TEST_F(PaletteTest, KeyboardGoesBackToTheHost) {

@@ -9,6 +9,7 @@
 #include "RVADM_Group.h"
 #include "RVADM_Label.h"
 #include "RVADM_ModalDialogButtons.h"
+#include "RVADM_NumericEdit.h"
 #include "RVADM_PictureLabel.h"
 #include "RVADM_PicturePushButton.h"
 #include "RVADM_Radio.h"
@@ -43,6 +44,9 @@ struct Watched : Item {
 class PlainItemsTest : public DialogTest {
  protected:
   PlainItemsTest() {
+    for (const char* suite : {"SP Basic Suite", "AI User Suite", "AI Unicode String Suite"}) {
+      EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
+    }
     for (const int id : {kPicture + 1000, kPicture + 2000}) {
       bundle.Write("png/p" + std::to_string(id) + ".png", PNGPicture(16, 16, Qt::red));
     }
@@ -78,7 +82,9 @@ TEST_F(PlainItemsTest, MayBeDeletedByTheirHandler) {
       [&] { return new RVADM_PictureLabel(&dialog, kPicture); },
       [&] { return new RVADM_Radio(&dialog, "Radio"); },
       [&] { return new RVADM_Slider(&dialog, true, 0, 100, 1); },
-      [&] { return new RVADM_TextEdit(&dialog, "Text", false, false); }};
+      [&] { return new RVADM_TextEdit(&dialog, "Text", false, false); },
+      [&] { return new RVADM_NumericEdit(&dialog, false, -1, 0.01, 100, 1); },
+      [&] { return new RVADM_NumericEdit(&dialog, true, -1, 0.01, 100, 1); }};
   for (const auto& make : makers) {
     for (const bool byKey : {false, true}) {
       RVADM_Item* item = make();

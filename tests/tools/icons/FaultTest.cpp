@@ -99,16 +99,5 @@ TEST(IconFileFaults, FoldersThatCannotBeUsedAreNamed) {
   expectOneSentence(runOn(scratch), "dot.png: ", "cannot be written");
 }
 
-TEST(IconFilesUsage, WrongArgumentsAreUsage) {
-  for (const std::vector<std::string>& arguments : {std::vector<std::string>{},
-                                                    {"icons.txt"},
-                                                    {"icons.txt", "out", "more"},
-                                                    {"a", "--sheet", "b", "c"}}) {
-    std::ostringstream errors;
-    EXPECT_EQ(run(arguments, errors), 2);
-    EXPECT_THAT(errors.str(), HasSubstr("usage: icon-files"));
-  }
-}
-
 }  // namespace
 }  // namespace icons
