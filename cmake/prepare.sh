@@ -1,13 +1,19 @@
 # Sourced by the two commands: installs what is missing and builds. Debian 12 and what descends from it.
 
+# What building and running take.
 corvane_packages=(
   g++ cmake ninja-build pkg-config ccache mold
-  libexpat1-dev librsvg2-dev libqpdf-dev liblcms2-dev libboost-dev libcli11-dev nlohmann-json3-dev
+  libexpat1-dev librsvg2-dev libqpdf-dev libfontconfig-dev liblcms2-dev libboost-dev libcli11-dev nlohmann-json3-dev
   qtbase5-dev libqt5gui5 libqt5svg5-dev qttranslations5-l10n
-  libgtest-dev libgmock-dev libbenchmark-dev gettext libgettextpo-dev
-  fonts-dejavu-core fonts-ipafont-gothic xvfb xauth
-  lintian desktop-file-utils appstream man-db file
-  qpdf mupdf-tools ghostscript poppler-utils libx11-dev libxtst-dev
+  libgtest-dev libgmock-dev libbenchmark-dev libgettextpo-dev libx11-dev libxtst-dev
+  fonts-dejavu-core fonts-ipafont-gothic
+)
+# What the check takes beside it: the other compiler with its tools, an X server, and what others made to look at files.
+corvane_check_packages=(
+  clang clang-format clang-tidy libclang-rt-dev llvm python3
+  xvfb xauth
+  gettext lintian desktop-file-utils appstream man-db file
+  qpdf mupdf-tools ghostscript poppler-utils
 )
 
 install_packages() {
