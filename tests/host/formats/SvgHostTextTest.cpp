@@ -53,7 +53,7 @@ TEST(SvgStyleText, FindsTheLastDeclaration) {
   EXPECT_EQ(styleProperty(kStyle, "a"), "url(x;y)");
   EXPECT_EQ(styleProperty(kStyle, "b"), "3");
   EXPECT_EQ(styleProperty("b:'2;' !important", "b"), "'2;'");
-  EXPECT_EQ(styleProperty(kStyle, "c"), "");
+  EXPECT_EQ(styleProperty(kStyle, "c"), std::nullopt) << "without a colon";
   EXPECT_EQ(styleProperty(kStyle, "x"), std::nullopt);
 }
 
