@@ -13,7 +13,7 @@
 namespace host {
 namespace {
 
-constexpr int kActions = 300;
+constexpr int kActions = 150;
 constexpr int kSessions = 3;
 constexpr int kBetweenFiles = 10;  // actions
 constexpr int kBetweenJourneys = 40;

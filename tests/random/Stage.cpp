@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <QtTest/QTest>
 #include <cstdlib>
+#include <utility>
 
 #include "DrawingTabs.h"
 #include "DrawingView.h"
@@ -20,7 +21,8 @@ namespace host {
 namespace {
 
 constexpr char kPaletteKey[] = "Create Line Type Layers";
-constexpr int kPatience = 10000;  // ms
+constexpr int kPatience = 10000;     // ms
+constexpr int kFocusGoesBack = 120;  // ms; a palette that comes up keeps the keys so long
 
 // Layers of line types among others, some locked or hidden; text, an instance, a clip, a gradient, a compound
 // path, an open path, groups in groups, two artboards.
@@ -150,6 +152,8 @@ bool Stage::isQuiet() {
 }
 
 bool Stage::settle() {
+  const bool hasPalette = palette() != nullptr;
+  if (std::exchange(hadPalette_, hasPalette) != hasPalette) QTest::qWait(kFocusGoesBack);
   for (int i = 0; i < 3; ++i) {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

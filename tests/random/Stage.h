@@ -53,6 +53,7 @@ class Stage {
 
   ScratchFolder scratch_;
   std::vector<std::string> files_;
+  bool hadPalette_ = false;
   int made_ = 0;
   int lives_ = 0;
   std::string language_;
