@@ -32,6 +32,14 @@ bool canHold(AIArtType container, AIArtType content) {
   return container == kCompoundPathArt && content == kPathArt;
 }
 
+// What is said of a compound path holds for all of its paths.
+void becomePart(Art& path) {
+  path.style = nullptr;
+  path.clip = nullptr;
+  path.hidden = false;
+  path.locked = false;
+}
+
 // Where in the list of its siblings or of the layers something goes.
 struct Place {
   ArtId parent;
@@ -178,7 +186,7 @@ bool Document::moveArt(ArtId id, AIPaintOrder order, ArtId reference) {
       art_[object->parent].type == kCompoundPathArt && art_[place->parent].type != kCompoundPathArt;
   if (leavesCompound) art_.edit(id).style = art_[art_[id].parent].style;
   if (art_[place->parent].type == kCompoundPathArt) {
-    art_.edit(id).style = nullptr;
+    becomePart(art_.edit(id));
     selection_.remove(id);
   }
   unlink(id);
@@ -224,8 +232,10 @@ void Document::setName(ArtId id, std::string name) {
 void Document::initialiseArt(ArtId id, const Art& content) {
   touch();
   const Art place = art_[id];
+  const bool isPart = place.parent != 0 && art_[place.parent].type == kCompoundPathArt;
   Art& object = art_.edit(id);
   object = content;
+  if (isPart) becomePart(object);
   object.parent = place.parent;
   object.above = place.above;
   object.below = place.below;

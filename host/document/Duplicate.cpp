@@ -11,7 +11,6 @@ void copyContent(Document& document, ArtId from, ArtId to) {
   Art content = *document.art(from);
   const ArtId lowest = content.lastChild;
   const bool hasOwnStyle = document.art(to)->style != nullptr;
-  if (!hasOwnStyle) content.style = nullptr;
   if (hasOwnStyle && content.style == nullptr) content.style = document.art(content.parent)->style;
   if (content.copyOf == 0) content.copyOf = from;
   content.source = 0;

@@ -70,8 +70,8 @@ void SvgArtReader::readLayer(const SvgLayerPlan& plan) {
     for (const NodeIndex element : plan.stray) readElement(element, outer, root);
     return;
   }
-  const SvgContext context = reading_.contextInside(plan.source, outer);
-  layer.visible = context.style.displayed && passesConditions(source_, plan.source);
+  const SvgContext context = contextInside(plan.source, reading_.cascade.declaredFor(plan.source), outer);
+  layer.visible = !context.flattened && context.style.displayed && passesConditions(source_, plan.source);
   layer.editable = !isTrue(source_.attribute(plan.source, XmlNamespace::Sodipodi, "insensitive"));
   layer.step = stepOfLayer(plan.source);
   reading_.remarkEffects(plan.source, context.style);
@@ -88,6 +88,18 @@ std::optional<std::string> SvgArtReader::stepOfLayer(NodeIndex element) {
   std::optional<std::string> step = stepFrom(*text);
   if (!step) reading_.remarks.add(element, "its processing step " + quoted(*text) + " is not known");
   return step;
+}
+
+// What is flattened could not be told apart any more, and nothing be added to it.
+SvgContext SvgArtReader::contextInside(NodeIndex element, const SvgDeclaredValues& declared,
+                                       const SvgContext& outer) {
+  SvgContext context = reading_.contextInside(element, declared, outer);
+  AIRealMatrix inverse{};
+  if (invert(context.documentFromUser, inverse)) return context;
+  context.flattened = true;
+  context.documentFromUser = concat(uprightTransformOf(source_, element), outer.documentFromUser);
+  reading_.remarks.add(element, "its transform flattens it, so it is not drawn");
+  return context;
 }
 
 void SvgArtReader::readChildren(NodeIndex element, const SvgContext& context, ArtId parent) {
@@ -109,7 +121,7 @@ void SvgArtReader::readElement(NodeIndex element, const SvgContext& outer, ArtId
 
 void SvgArtReader::readContainer(NodeIndex element, SvgElementKind kind, const SvgContext& outer,
                                  ArtId parent, bool chosen) {
-  const SvgContext context = reading_.contextInside(element, outer);
+  const SvgContext context = contextInside(element, reading_.cascade.declaredFor(element), outer);
   const ArtId id = addArt(artOf(element, kGroupArt, context, chosen), parent);
   ClipPointer viewport;
   if (kind == SvgElementKind::Group) readChildren(element, context, id);
@@ -140,7 +152,7 @@ ClipPointer SvgArtReader::readNested(NodeIndex element, const SvgContext& contex
 void SvgArtReader::readLeaf(NodeIndex element, SvgElementKind kind, const SvgContext& outer, ArtId parent,
                             bool chosen) {
   const SvgDeclaredValues declared = reading_.cascade.declaredFor(element);
-  const SvgContext context = reading_.contextInside(element, declared, outer);
+  const SvgContext context = contextInside(element, declared, outer);
   if (kind == SvgElementKind::Shape) {
     readShape(element, declared, context, artOf(element, kPathArt, context, chosen), parent);
   } else {
@@ -228,14 +240,9 @@ Art SvgArtReader::artOf(NodeIndex element, AIArtType type, const SvgContext& con
   art.source = element;
   art.name = std::string(source_.attribute(element, XmlNamespace::Inkscape, "label").value_or(""));
   art.locked = isTrue(source_.attribute(element, XmlNamespace::Sodipodi, "insensitive"));
-  art.hidden = !chosen || !context.style.displayed || !passesConditions(source_, element);
+  art.hidden =
+      !chosen || context.flattened || !context.style.displayed || !passesConditions(source_, element);
   reading_.remarkEffects(element, context.style);
-  if (determinant(context.documentFromUser) == 0) {
-    art.hidden = true;
-    if (source_.attribute(element, "transform")) {
-      reading_.remarks.add(element, "its transform flattens it, so it is not drawn");
-    }
-  }
   return art;
 }
 

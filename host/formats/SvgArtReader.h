@@ -23,6 +23,7 @@ class SvgArtReader {
  private:
   void readLayer(const SvgLayerPlan& plan);
   std::optional<std::string> stepOfLayer(NodeIndex element);
+  SvgContext contextInside(NodeIndex element, const SvgDeclaredValues& declared, const SvgContext& outer);
   void readChildren(NodeIndex element, const SvgContext& context, ArtId parent);
   // `chosen` is false for a child of a <switch> that is not the one to show.
   void readElement(NodeIndex element, const SvgContext& outer, ArtId parent, bool chosen = true);

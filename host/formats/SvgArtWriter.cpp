@@ -64,22 +64,6 @@ void SvgArtWriter::insertRun(const std::vector<ArtId>& run, const SvgSpot& spot)
   for (const ArtId id : run) writing_.inserter.insert(spot, content(id, place));
 }
 
-NodeIndex SvgArtWriter::lowestInPlace(ArtId container) const {
-  const std::vector<ArtId> now = writing_.changes.children(container);
-  const std::vector<bool> inPlace = entriesInPlace(now, writing_.changes.originalChildren(container));
-  const auto found = std::find(inPlace.begin(), inPlace.end(), true);
-  if (found == inPlace.end()) return 0;
-  return writing_.changes.elementOf(now[static_cast<std::size_t>(found - inPlace.begin())]);
-}
-
-NodeIndex SvgArtWriter::topmostInPlace(ArtId container) const {
-  const std::vector<ArtId> now = writing_.changes.children(container);
-  const std::vector<bool> inPlace = entriesInPlace(now, writing_.changes.originalChildren(container));
-  const auto found = std::find(inPlace.rbegin(), inPlace.rend(), true);
-  if (found == inPlace.rend()) return 0;
-  return writing_.changes.elementOf(now[static_cast<std::size_t>(inPlace.rend() - found) - 1]);
-}
-
 SvgNewContent SvgArtWriter::newChildren(ArtId container, const SvgPlace& place) {
   SvgNewContent result;
   for (const ArtId child : writing_.changes.children(container)) {
@@ -93,37 +77,52 @@ SvgNewContent SvgArtWriter::content(ArtId id, const SvgPlace& place) {
   const NodeIndex element = writing_.changes.elementOf(id);
   if (element != 0) return moved(id, element, place);
   const Art& art = *writing_.document.art(id);
+  const NodeIndex model = art.copyOf == 0 ? 0 : writing_.changes.originalElementOf(art.copyOf);
+  if (model != 0) return copied(id, model, place, SvgTagEdit(writing_.source, writing_.declared, model));
   if (art.type == kGroupArt) return newGroup(id, place);
   SvgNewContent result;
-  const NodeIndex model = art.copyOf == 0 ? 0 : writing_.changes.originalElementOf(art.copyOf);
-  if (isPath(art)) {
-    result.add(newPath(id, place));
-  } else if (model != 0) {
-    result = copied(id, model, place);
-  }
+  if (isPath(art)) result.add(newPath(id, place));
   return result;
 }
 
-// Art that is kept as a whole, beside what it was copied from. Ids stay with the original.
-SvgNewContent SvgArtWriter::copied(ArtId id, NodeIndex element, const SvgPlace& place) {
-  SvgNewContent result;
-  if (!writing_.canEdit(element)) return result;
+// What the element of the original says beside what a document holds is copied with it. Ids stay with the
+// original, and so do the rules that go by them.
+SvgNewContent SvgArtWriter::copied(ArtId id, NodeIndex element, const SvgPlace& place, SvgTagEdit tag) {
+  if (!writing_.canEdit(element)) return {};
   const SvgSource& source = writing_.source;
   SvgEditPlan plan(source, writing_.layout);
-  SvgTagEdit tag(source, writing_.declared, element);
+  const bool otherRules = writing_.declared.hasSheet();
+  movedUnderSheets_ += otherRules ? 1 : 0;
   adaptToPlace(writing_, element, place, tag);
-  const std::string& name = writing_.document.art(id)->name;
-  if (name != writing_.changes.original(writing_.document.art(id)->copyOf)->name) {
-    tag.set(XmlNamespace::Inkscape, "label", name);
-  }
+  editObject(id, element, tag);
   tag.write(plan, writing_.prefixes);
+  if (writing_.document.art(id)->type == kGroupArt) copyChildren(id, element, place, plan);
+  movedUnderSheets_ -= otherRules ? 1 : 0;
   const std::size_t end = source.node(element).end;
   for (NodeIndex node = element; node <= source.nodeCount() && source.node(node).begin < end; ++node) {
     const auto range = source.rawAttribute(node, XmlNamespace::None, "id");
     if (range) plan.replace(range->outerBegin, range->outerEnd, "");
   }
-  result.add(plan.elementText(element, writing_.prefixes));
-  return result;
+  return plan.takeElement(element);
+}
+
+// What the copy of a group holds now. `element` is that of the original, whose copy lies at `place`.
+void SvgArtWriter::copyChildren(ArtId group, NodeIndex element, const SvgPlace& place, SvgEditPlan& plan) {
+  const bool isEmpty = writing_.document.art(group)->firstChild == 0;
+  const SvgNode& node = writing_.source.node(element);
+  const bool hasEndTag = node.closeBegin != node.end;
+  if (isEmpty && !hasEndTag) return;
+  SvgPlace inner = placeInside(writing_, element);
+  inner.scope = place.scope;
+  inner.indent = place.indent;
+  inner.lineBreak = place.lineBreak.empty() ? std::string() : place.lineBreak + place.indent;
+  SvgNewContent content;
+  if (!hasEndTag) content.add(">");
+  content.add(newChildren(group, inner));
+  if (!isEmpty) content.add(place.lineBreak);
+  if (hasEndTag) return plan.replace(node.tagEnd, node.closeBegin, std::move(content));
+  content.add("</" + writing_.layout.endTagName(element) + ">");
+  plan.replace(writing_.source.attributeInsertion(element), node.tagEnd, std::move(content));
 }
 
 SvgNewContent SvgArtWriter::moved(ArtId id, NodeIndex element, const SvgPlace& place) {
@@ -182,6 +181,7 @@ void SvgArtWriter::editKept(ArtId id, NodeIndex element) {
   const Art& before = *writing_.changes.original(id);
   const Art& now = *writing_.document.art(id);
   const bool changed = now.name != before.name || movedUnderSheets_ > 0 ||
+                       losesSwitch(writing_, id, element) || isHiddenBySwitch(id, element) ||
                        (isPath(now) && (looksDifferent(id) || writing_.changes.isReshaped(id)));
   if (changed && writing_.canEdit(element)) {
     SvgTagEdit tag(writing_.source, writing_.declared, element);
@@ -192,14 +192,26 @@ void SvgArtWriter::editKept(ArtId id, NodeIndex element) {
 }
 
 void SvgArtWriter::editKept(ArtId id, NodeIndex element, SvgTagEdit& tag) {
-  const Art& now = *writing_.document.art(id);
-  if (now.name != writing_.changes.original(id)->name) tag.set(XmlNamespace::Inkscape, "label", now.name);
-  if (isPath(now)) {
-    if (writing_.changes.isReshaped(id)) editOutline(id, element, tag);
-    editPathStyle(id, element, tag);
-  }
+  editObject(id, element, tag);
   tag.write(writing_.plan, writing_.prefixes);
-  if (now.type == kGroupArt) writeChildren(id, element);
+  if (writing_.document.art(id)->type == kGroupArt) writeChildren(id, element);
+}
+
+// Name, outline and style of art that stands where the file has its element, or is a copy of such art.
+void SvgArtWriter::editObject(ArtId id, NodeIndex element, SvgTagEdit& tag) {
+  const Art& now = *writing_.document.art(id);
+  if (now.name != writing_.changes.model(id)->name) tag.set(XmlNamespace::Inkscape, "label", now.name);
+  if (losesSwitch(writing_, id, element)) tag.rename("g");
+  if (isHiddenBySwitch(id, element)) tag.setInStyle("display", "none");
+  if (!isPath(now)) return;
+  if (writing_.changes.isReshaped(id)) editOutline(id, element, tag);
+  editPathStyle(id, element, tag);
+}
+
+// One that does not hide it any more?
+bool SvgArtWriter::isHiddenBySwitch(ArtId id, NodeIndex element) const {
+  const Art& art = *writing_.document.art(id);
+  return art.hidden && losesSwitch(writing_, art.parent, writing_.source.node(element).parent);
 }
 
 void SvgArtWriter::editOutline(ArtId id, NodeIndex element, SvgTagEdit& tag) {
@@ -224,7 +236,7 @@ void SvgArtWriter::editOutline(ArtId id, NodeIndex element, SvgTagEdit& tag) {
 
 bool SvgArtWriter::looksDifferent(ArtId id) const {
   const auto& now = writing_.document.art(id)->style;
-  const auto& before = writing_.changes.original(id)->style;
+  const auto& before = writing_.changes.model(id)->style;
   return now != before &&
          !(styleWords(*now, writing_.document, 1) == styleWords(*before, writing_.document, 1));
 }
@@ -239,7 +251,7 @@ void SvgArtWriter::editPathStyle(ArtId id, NodeIndex element, SvgTagEdit& tag) {
                                   : strokeScale(writing_.documentFromContent(element));
   const SvgStyleWords now = styleWords(*writing_.document.art(id)->style, writing_.document, unit);
   const SvgStyleWords before =
-      inFull ? SvgStyleWords() : styleWords(*writing_.changes.original(id)->style, writing_.document, unit);
+      inFull ? SvgStyleWords() : styleWords(*writing_.changes.model(id)->style, writing_.document, unit);
   editStyle(before, now, element, writing_.source, writing_.declared, tag);
 }
 

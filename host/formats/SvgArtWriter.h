@@ -20,14 +20,17 @@ class SvgArtWriter {
   void writeChildren(ArtId container, NodeIndex element);
   // The children of a group that is new in the file, each behind the place's line break.
   SvgNewContent newChildren(ArtId container, const SvgPlace& place);
-  // The elements of the lowest and the topmost child that stay where they are; 0 if none does.
-  NodeIndex lowestInPlace(ArtId container) const;
-  NodeIndex topmostInPlace(ArtId container) const;
+  // A copy beside what the element stands for; `tag` holds what changes in it beside name, outline and style.
+  SvgNewContent copied(ArtId id, NodeIndex element, const SvgPlace& place, SvgTagEdit tag);
+  // The children of a container, each at this place.
+  void insertChildren(ArtId container, const SvgSpot& spot) {
+    insertRun(writing_.changes.children(container), spot);
+  }
 
  private:
   SvgNewContent content(ArtId id, const SvgPlace& place);
   SvgNewContent moved(ArtId id, NodeIndex element, const SvgPlace& place);
-  SvgNewContent copied(ArtId id, NodeIndex element, const SvgPlace& place);
+  void copyChildren(ArtId group, NodeIndex element, const SvgPlace& place, SvgEditPlan& plan);
   SvgNewContent newGroup(ArtId id, const SvgPlace& place);
   std::string newPath(ArtId id, const SvgPlace& place);
   std::string newTag(std::string_view element, ArtId id, const SvgPlace& place);
@@ -35,8 +38,10 @@ class SvgArtWriter {
 
   void editKept(ArtId id, NodeIndex element);
   void editKept(ArtId id, NodeIndex element, SvgTagEdit& tag);
+  void editObject(ArtId id, NodeIndex element, SvgTagEdit& tag);
   void editOutline(ArtId id, NodeIndex element, SvgTagEdit& tag);
   void editPathStyle(ArtId id, NodeIndex element, SvgTagEdit& tag);
+  bool isHiddenBySwitch(ArtId id, NodeIndex element) const;
   bool looksDifferent(ArtId id) const;
 
   std::string pathData(ArtId id, const AIRealMatrix& userFromDocument) const;

@@ -93,11 +93,23 @@ const Art* SvgChanges::original(ArtId id) const {
   return art.alive ? &art : nullptr;
 }
 
+const Art* SvgChanges::model(ArtId id) const {
+  const Art* const read = original(id);
+  const Art* const art = document_.art(id);
+  return read || !art ? read : original(art->copyOf);
+}
+
 const Layer* SvgChanges::originalLayer(LayerId id) const {
   id = layers_.originalOf(id);
   if (id == 0 || id > drawing_.originalLayers.size()) return nullptr;
   const Layer& layer = drawing_.originalLayers[id - 1];
   return layer.alive ? &layer : nullptr;
+}
+
+const Layer* SvgChanges::modelLayer(LayerId id) const {
+  const Layer* const read = originalLayer(id);
+  const Layer* const layer = document_.layer(id);
+  return read || !layer ? read : originalLayer(layer->copyOf);
 }
 
 std::vector<LayerId> SvgChanges::originalLayers() const {
@@ -135,7 +147,7 @@ std::vector<ArtId> SvgChanges::children(ArtId id) const {
 }
 
 bool SvgChanges::isReshaped(ArtId id) const {
-  const Art* const before = original(id);
+  const Art* const before = model(id);
   const Art* const now = document_.art(id);
   if (!before || !now) return true;
   if (now->type == kPathArt) return now->path != before->path && !same(*now->path, *before->path);

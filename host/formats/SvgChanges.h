@@ -20,7 +20,9 @@ class SvgChanges {
 
   ArtId heirOf(ArtId id) const { return art_.heirOf(id); }  // itself if it has none
   const Art* original(ArtId id) const;                      // null for art that was not read
+  const Art* model(ArtId id) const;  // the original, or else what it is a copy of, as that was read
   const Layer* originalLayer(LayerId id) const;
+  const Layer* modelLayer(LayerId id) const;
 
   std::vector<LayerId> originalLayers() const;  // from the top down, those with heirs replaced by them
 
@@ -32,7 +34,7 @@ class SvgChanges {
   std::vector<ArtId> originalChildren(ArtId id) const;
   std::vector<ArtId> children(ArtId id) const;
 
-  // Has the outline of a path, or of a compound path, changed?
+  // Is the outline of a path, or of a compound path, another one than its model's?
   bool isReshaped(ArtId id) const;
 
  private:

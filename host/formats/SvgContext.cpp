@@ -11,9 +11,14 @@ AIRealMatrix transformOf(const SvgSource& source, NodeIndex element) {
   return text ? parseTransform(*text).value_or(kIdentity) : kIdentity;
 }
 
+AIRealMatrix uprightTransformOf(const SvgSource& source, NodeIndex element) {
+  const auto text = source.attribute(element, "transform");
+  return text ? parseUprightTransform(*text).value_or(kIdentity) : kIdentity;
+}
+
 SvgFrame frameInside(const SvgSource& source, NodeIndex element, const SvgFrame& outer) {
   SvgFrame frame = outer;
-  frame.documentFromUser = concat(transformOf(source, element), outer.documentFromUser);
+  frame.documentFromUser = concat(uprightTransformOf(source, element), outer.documentFromUser);
   if (!source.is(element, "svg")) return frame;
   const SvgViewport viewport =
       nestedViewport(source, element, {outer.width, outer.height, SvgMeasure{}.fontSize});

@@ -49,9 +49,18 @@ void SvgEditPlan::sort() {
   });
 }
 
-std::string SvgEditPlan::elementText(NodeIndex element, const SvgPrefixes& prefixes) {
+SvgNewContent SvgEditPlan::takeElement(NodeIndex element) {
   sort();
-  return text(element, prefixes);
+  const SvgNode& node = source_.node(element);
+  SvgNewContent content;
+  std::size_t at = node.begin;
+  for (const Edit* edit : editsBetween(node.begin, node.end)) {
+    content.add(source_.utf8(at, edit->begin));
+    content.add(edit->content);
+    at = edit->end;
+  }
+  content.add(source_.utf8(at, node.end));
+  return content;
 }
 
 std::string SvgEditPlan::apply(const SvgPrefixes& prefixes) {
@@ -59,18 +68,25 @@ std::string SvgEditPlan::apply(const SvgPrefixes& prefixes) {
   return source_.splice(resolved(0, source_.bytes().size(), prefixes));
 }
 
-// The edits that lie strictly between two offsets and not inside one another.
-std::vector<SvgEdit> SvgEditPlan::resolved(std::size_t begin, std::size_t end,
-                                           const SvgPrefixes& prefixes) const {
-  std::vector<SvgEdit> result;
+// Those that lie strictly between two offsets and not inside one another.
+std::vector<const SvgEditPlan::Edit*> SvgEditPlan::editsBetween(std::size_t begin, std::size_t end) const {
+  std::vector<const Edit*> found;
   auto edit = std::partition_point(edits_.begin(), edits_.end(),
                                    [begin](const Edit& other) { return other.begin <= begin; });
   std::size_t at = begin;
   for (; edit != edits_.end() && edit->begin < end; ++edit) {
     if (edit->begin < at) continue;
-    result.push_back({edit->begin, edit->end, text(edit->content, prefixes)});
+    found.push_back(&*edit);
     at = edit->end;
   }
+  return found;
+}
+
+std::vector<SvgEdit> SvgEditPlan::resolved(std::size_t begin, std::size_t end,
+                                           const SvgPrefixes& prefixes) const {
+  std::vector<SvgEdit> result;
+  for (const Edit* edit : editsBetween(begin, end))
+    result.push_back({edit->begin, edit->end, text(edit->content, prefixes)});
   return result;
 }
 

@@ -40,8 +40,9 @@ class SvgEditPlan {
   void insert(std::size_t offset, SvgNewContent content);  // several at one place keep their order
   void cut(NodeIndex element);
 
-  // One element with the edits in it.
-  std::string elementText(NodeIndex element, const SvgPrefixes& prefixes);
+  // One element with the edits in it, to be inserted by this or another plan of the same file, which then
+  // makes its own edits in what moves into it.
+  SvgNewContent takeElement(NodeIndex element);
   // The file with all edits done.
   std::string apply(const SvgPrefixes& prefixes);
 
@@ -53,6 +54,7 @@ class SvgEditPlan {
   };
 
   void sort();
+  std::vector<const Edit*> editsBetween(std::size_t begin, std::size_t end) const;
   std::vector<SvgEdit> resolved(std::size_t begin, std::size_t end, const SvgPrefixes& prefixes) const;
   std::string text(const SvgNewContent& content, const SvgPrefixes& prefixes) const;
   std::string text(NodeIndex moved, const SvgPrefixes& prefixes) const;

@@ -1,6 +1,7 @@
 // What of an element's look is beyond paints, strokes and clips.
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include "SvgDrawing.h"
@@ -13,7 +14,11 @@ struct SvgEffect {
   double strokeOpacity = 1;
   bool masked = false;
   bool filtered = false;
-  bool marked = false;  // has markers, if it is a shape
+  bool marked = false;         // has markers, if it is a shape
+  bool reordered = false;      // painted in another order than fill, stroke, markers
+  bool stretched = false;      // its stroke is wider in one direction than in another
+  bool dashesCut = false;      // its dash pattern is longer than a document holds
+  std::string_view blendMode;  // such as "multiply"; empty: normal
 
   bool actsOnWhole() const { return opacity < 1 || masked || filtered; }
 };

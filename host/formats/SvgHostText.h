@@ -8,6 +8,7 @@
 //   ch:kind="compound"             a compound path although it has but one subpath, or none
 //   ch:added="layer"               a layer that this host added: leave it out of account when telling
 //                                  whether a file has layers of its own
+//   ch:title=""                    a layer without a title, which would be called by its id otherwise
 //   ch:step="Structural/Cutting"   the processing step that was chosen for a layer, or "none"
 //
 // A paint is gray(K), with 0 white and 1 black, cmyk(C M Y K), rgb(R G B), custom('NAME' TINT), with 0
@@ -41,6 +42,7 @@ constexpr char kHostFillOverprint[] = "fill-overprint";
 constexpr char kHostStrokeOverprint[] = "stroke-overprint";
 constexpr char kHostKind[] = "kind";
 constexpr char kHostAdded[] = "added";
+constexpr char kHostTitle[] = "title";
 constexpr char kHostStep[] = "step";
 
 // The paint in words; empty for a custom colour or a server that the document does not have.

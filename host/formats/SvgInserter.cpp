@@ -18,7 +18,8 @@ SvgSpot SvgInserter::before(NodeIndex sibling) const {
 }
 
 SvgSpot SvgInserter::inside(NodeIndex parent) const {
-  if (const NodeIndex last = layout_.lastEditableChild(parent)) return behind(last);
+  const NodeIndex last = layout_.lastChild(parent);
+  if (last != 0 && source_.node(last).editable) return behind(last);
   return {SvgSpot::Side::AtEnd, parent, parent, layout_.childBreak(parent), layout_.indent(parent)};
 }
 
@@ -64,11 +65,10 @@ void SvgInserter::fill(NodeIndex parent, SvgNewContent content) {
     plan_.insert(layout_.contentEnd(parent), std::move(content));
     return;
   }
-  const auto [nameBegin, nameEnd] = source_.rawName(parent);
   SvgNewContent opened;
   opened.add(">");
   opened.add(content);
-  opened.add(layout_.closeBreak(parent) + "</" + source_.utf8(nameBegin, nameEnd) + ">");
+  opened.add(layout_.closeBreak(parent) + "</" + layout_.endTagName(parent) + ">");
   plan_.replace(source_.attributeInsertion(parent), node.tagEnd, std::move(opened));
 }
 

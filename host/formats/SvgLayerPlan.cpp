@@ -20,6 +20,11 @@ std::string_view labelOf(const SvgSource& source, NodeIndex element) {
   return source.attribute(element, XmlNamespace::Inkscape, "label").value_or("");
 }
 
+// Does it say so?
+bool hasNoTitle(const SvgSource& source, NodeIndex element) {
+  return source.attribute(element, XmlNamespace::Host, kHostTitle) == "";
+}
+
 std::string titleOf(const SvgSource& source, NodeIndex element) {
   for (const std::string_view name :
        {labelOf(source, element), source.attribute(element, "data-name").value_or("")}) {
@@ -32,7 +37,8 @@ Candidate candidateOf(const SvgSource& source, NodeIndex element) {
   if (!source.is(element, "g")) return Candidate::Stray;
   if (source.attribute(element, XmlNamespace::Host, kHostAdded) == "layer") return Candidate::Added;
   if (source.attribute(element, XmlNamespace::Inkscape, "groupmode") == "layer") return Candidate::Declared;
-  return titleOf(source, element).empty() ? Candidate::Stray : Candidate::Named;
+  const bool isNamed = hasNoTitle(source, element) || !titleOf(source, element).empty();
+  return isNamed ? Candidate::Named : Candidate::Stray;
 }
 
 // Programs leave empty groups behind, which are no content.
@@ -66,6 +72,7 @@ bool isOfTheFile(const Entry& entry) {
 }
 
 std::string layerTitle(const SvgSource& source, const Entry& entry) {
+  if (hasNoTitle(source, entry.element)) return {};
   if (entry.candidate == Candidate::Added) return std::string(labelOf(source, entry.element));
   return titleOf(source, entry.element);
 }

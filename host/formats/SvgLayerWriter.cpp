@@ -1,21 +1,31 @@
 #include "SvgLayerWriter.h"
 
-#include <algorithm>
 #include <utility>
 
+#include "Geometry.h"
+#include "SvgContext.h"
 #include "SvgHostText.h"
 #include "SvgMove.h"
+#include "SvgTransform.h"
 #include "SvgXmlText.h"
 
 namespace host {
+namespace {
+
+void unflatten(const SvgSource& source, NodeIndex element, SvgTagEdit& tag) {
+  AIRealMatrix inverse{};
+  if (invert(transformOf(source, element), inverse)) return;
+  tag.set("transform", transformText(uprightTransformOf(source, element)));
+}
+
+}  // namespace
 
 void SvgLayerWriter::write() {
   cutLost();
   const DocumentState& state = writing_.document.state();
-  const std::vector<LayerId> before = writing_.changes.originalLayers();
   // From the bottom up, as in the file.
   const std::vector<LayerId> now(state.layers.rbegin(), state.layers.rend());
-  const std::vector<bool> inPlace = entriesInPlace(now, keepable({before.rbegin(), before.rend()}));
+  const std::vector<bool> inPlace = entriesInPlace(now, forms_.keptInFile());
   std::vector<LayerId> run;
   LayerId below = 0;
   for (std::size_t i = 0; i < now.size(); ++i) {
@@ -23,9 +33,6 @@ void SvgLayerWriter::write() {
       run.push_back(now[i]);
       continue;
     }
-    const bool isGone =
-        isLoose(now[i]) && !writing_.document.art(writing_.document.layer(now[i])->root)->firstChild;
-    if (isGone) continue;
     insertRun(run, below, now[i]);
     run.clear();
     below = now[i];
@@ -34,78 +41,11 @@ void SvgLayerWriter::write() {
   insertRun(run, below, 0);
 }
 
-bool SvgLayerWriter::isLoose(LayerId id) const {
-  const Layer* const layer = writing_.changes.originalLayer(id);
-  return layer && layer->source == writing_.source.root();
-}
-
-bool SvgLayerWriter::hasNewState(LayerId id) const {
-  const Layer& before = *writing_.changes.originalLayer(id);
-  const Layer& now = *writing_.document.layer(id);
-  return now.title != before.title || now.visible != before.visible || now.editable != before.editable ||
-         now.step != before.step;
-}
-
-// Does the layer say in the file that it is one?
-bool SvgLayerWriter::isDeclared(LayerId id) const {
-  const Layer* const before = writing_.changes.originalLayer(id);
-  if (!before || before->source == 0 || isLoose(id)) return false;
-  const SvgSource& source = writing_.source;
-  return source.attribute(before->source, XmlNamespace::Inkscape, "groupmode") == "layer" &&
-         !source.attribute(before->source, XmlNamespace::Host, kHostAdded);
-}
-
-bool SvgLayerWriter::isTakenForLayer(ArtId id) const {
-  const Art& art = *writing_.document.art(id);
-  if (art.type != kGroupArt) return false;
-  const NodeIndex element = writing_.changes.elementOf(id);
-  if (element == 0) return !art.name.empty() || art.firstChild == 0;  // an empty group counts for nothing
-  const SvgSource& source = writing_.source;
-  const bool named = !art.name.empty() || !source.attribute(element, "id").value_or("").empty() ||
-                     !source.attribute(element, "data-name").value_or("").empty();
-  return source.is(element, "g") && named;
-}
-
-// Groups with names, and nothing beside them, are layers themselves to a reader.
-bool SvgLayerWriter::isTakenForLayers(LayerId loose) const {
-  const auto& layers = writing_.document.state().layers;
-  if (std::any_of(layers.begin(), layers.end(), [this](LayerId id) { return isDeclared(id); })) return false;
-  const std::vector<ArtId> children = writing_.changes.children(writing_.document.layer(loose)->root);
-  return !children.empty() && std::all_of(children.begin(), children.end(),
-                                          [this](ArtId child) { return isTakenForLayer(child); });
-}
-
-// To a reader the layer lies where the first of its content stands. Is there none left, or only behind
-// layers that it lies below?
-bool SvgLayerWriter::isHomeless(LayerId loose) const {
-  const ArtId root = writing_.document.layer(loose)->root;
-  const std::vector<LayerId> layers = writing_.changes.originalLayers();
-  const std::vector<ArtId> before = writing_.changes.originalChildren(root);
-  if (layers.size() == 1 || before.empty()) return false;
-  const NodeIndex first = arts_.lowestInPlace(root);
-  if (first == 0) return writing_.document.art(root)->firstChild != 0;
-  const NodeIndex formerFirst = writing_.changes.originalElementOf(before.front());
-  return std::any_of(layers.begin(), layers.end(), [&](LayerId id) {
-    const NodeIndex element = writing_.changes.originalLayer(id)->source;
-    return formerFirst < element && element < first;
-  });
-}
-
-// Those of the file that can stay without an element being made for them.
-std::vector<LayerId> SvgLayerWriter::keepable(std::vector<LayerId> layers) const {
-  const auto isToBeMade = [this](LayerId id) {
-    if (!writing_.document.layer(id) || writing_.changes.originalLayer(id)->source == 0) return true;
-    return isLoose(id) && (hasNewState(id) || isTakenForLayers(id) || isHomeless(id));
-  };
-  layers.erase(std::remove_if(layers.begin(), layers.end(), isToBeMade), layers.end());
-  return layers;
-}
-
 void SvgLayerWriter::cutLost() {
   for (const LayerId id : writing_.changes.originalLayers()) {
+    if (writing_.document.layer(id) || !forms_.hasElement(id)) continue;
     const NodeIndex element = writing_.changes.originalLayer(id)->source;
-    const bool lost = !writing_.document.layer(id) && element != 0 && !isLoose(id);
-    if (lost && writing_.canEdit(element)) writing_.plan.cut(element);
+    if (writing_.canEdit(element)) writing_.plan.cut(element);
   }
 }
 
@@ -114,33 +54,37 @@ void SvgLayerWriter::insertRun(const std::vector<LayerId>& run, LayerId below, L
   const SvgSpot spot = spotBetween(below, above);
   if (!writing_.canEdit(spot.anchor)) return;
   const SvgPlace place = placeAt(writing_, spot);
-  for (const LayerId id : run) writing_.inserter.insert(spot, content(id, place));
-}
-
-// The element beside which to insert on one side of a layer that stays; 0 if it has none.
-NodeIndex SvgLayerWriter::anchorOf(LayerId id, NodeIndex (SvgArtWriter::*looseEnd)(ArtId) const) const {
-  if (id == 0) return 0;
-  return isLoose(id) ? (arts_.*looseEnd)(writing_.document.layer(id)->root)
-                     : writing_.changes.originalLayer(id)->source;
-}
-
-SvgSpot SvgLayerWriter::spotBetween(LayerId below, LayerId above) const {
-  const NodeIndex root = writing_.source.root();
-  const NodeIndex lower = anchorOf(below, &SvgArtWriter::topmostInPlace);
-  const NodeIndex upper = anchorOf(above, &SvgArtWriter::lowestInPlace);
-  const bool besideLower = lower != 0 && (!isLoose(below) || upper == 0);
-  if (above == 0) {
-    const bool outside = besideLower && writing_.source.node(lower).parent != root;
-    return outside ? writing_.inserter.behind(lower) : writing_.inserter.inside(root);
+  for (const LayerId id : run) {
+    if (forms_.isLoose(id)) {
+      arts_.insertChildren(writing_.document.layer(id)->root, spot);
+    } else {
+      writing_.inserter.insert(spot, content(id, place));
+    }
   }
-  if (besideLower) return writing_.inserter.behind(lower);
-  return upper != 0 ? writing_.inserter.before(upper) : writing_.inserter.inside(root);
+}
+
+// Both stay where they are; 0 is the end of the file.
+SvgSpot SvgLayerWriter::spotBetween(LayerId below, LayerId above) const {
+  if (above == 0) return writing_.inserter.inside(writing_.source.root());
+  const bool isLowerWhole = below != 0 && !forms_.isLoose(below);
+  return isLowerWhole ? writing_.inserter.behind(forms_.beginOf(below))
+                      : writing_.inserter.before(forms_.beginOf(above));
 }
 
 SvgNewContent SvgLayerWriter::content(LayerId id, const SvgPlace& place) {
-  const Layer* const before = writing_.changes.originalLayer(id);
-  const bool hasElement = before && before->source != 0 && !isLoose(id);
-  return hasElement ? moved(id, place) : newLayer(id, place);
+  if (forms_.hasElement(id)) return moved(id, place);
+  const Layer* const model = writing_.changes.modelLayer(id);
+  const bool isCopy = model && model->source != 0 && model->source != writing_.source.root();
+  return isCopy ? copied(id, model->source, place) : newLayer(id, place);
+}
+
+SvgNewContent SvgLayerWriter::copied(LayerId id, NodeIndex element, const SvgPlace& place) {
+  SvgTagEdit tag(writing_.source, writing_.declared, element);
+  editState(id, tag);
+  tag.set(XmlNamespace::Inkscape, "groupmode", "layer");
+  tag.set(XmlNamespace::Inkscape, "label", writing_.document.layer(id)->title);
+  if (forms_.isMarkedAdded(id)) tag.set(XmlNamespace::Host, kHostAdded, "layer");
+  return arts_.copied(writing_.document.layer(id)->root, element, place, std::move(tag));
 }
 
 SvgNewContent SvgLayerWriter::moved(LayerId id, const SvgPlace& place) {
@@ -168,7 +112,7 @@ SvgNewContent SvgLayerWriter::newLayer(LayerId id, SvgPlace place) {
   std::string attributes;
   add(attributes, XmlNamespace::Inkscape, "groupmode", "layer");
   if (!layer.title.empty()) add(attributes, XmlNamespace::Inkscape, "label", layer.title);
-  if (!isLoose(id)) add(attributes, XmlNamespace::Host, kHostAdded, "layer");
+  if (forms_.isMarkedAdded(id)) add(attributes, XmlNamespace::Host, kHostAdded, "layer");
   if (layer.step) add(attributes, XmlNamespace::Host, kHostStep, stepText(*layer.step));
   if (!layer.visible) appendAttribute(attributes, "style", "display:none");
   if (!layer.editable) add(attributes, XmlNamespace::Sodipodi, "insensitive", "1");
@@ -187,7 +131,8 @@ SvgNewContent SvgLayerWriter::newLayer(LayerId id, SvgPlace place) {
 
 void SvgLayerWriter::editKept(LayerId id) {
   const NodeIndex element = writing_.changes.originalLayer(id)->source;
-  if (!isLoose(id) && hasNewState(id) && writing_.canEdit(element)) {
+  const bool hasEdits = !forms_.isLoose(id) && (hasNewState(writing_, id) || losesMark(id));
+  if (hasEdits && writing_.canEdit(element)) {
     SvgTagEdit tag(writing_.source, writing_.declared, element);
     editState(id, tag);
     tag.write(writing_.plan, writing_.prefixes);
@@ -195,16 +140,35 @@ void SvgLayerWriter::editKept(LayerId id) {
   arts_.writeChildren(writing_.document.layer(id)->root, element);
 }
 
-void SvgLayerWriter::editState(LayerId id, SvgTagEdit& tag) const {
-  const Layer& before = *writing_.changes.originalLayer(id);
-  const Layer& now = *writing_.document.layer(id);
-  if (now.title != before.title) {
-    tag.set(XmlNamespace::Inkscape, "label", now.title);
-    // Without a title a layer would be called by its id, or be none.
-    if (now.title.empty()) tag.set(XmlNamespace::Host, kHostAdded, "layer");
+// Others of the file went that showed that it has layers of its own.
+bool SvgLayerWriter::losesMark(LayerId id) const {
+  const NodeIndex element = writing_.changes.modelLayer(id)->source;
+  return writing_.source.attribute(element, XmlNamespace::Host, kHostAdded) == "layer" &&
+         !forms_.isMarkedAdded(id);
+}
+
+void SvgLayerWriter::editTitle(LayerId id, SvgTagEdit& tag) const {
+  const Layer& before = *writing_.changes.modelLayer(id);
+  const std::string& title = writing_.document.layer(id)->title;
+  if (title != before.title) tag.set(XmlNamespace::Inkscape, "label", title);
+  if (title.empty()) {
+    tag.set(XmlNamespace::Host, kHostTitle, "");
+  } else if (writing_.source.attribute(before.source, XmlNamespace::Host, kHostTitle)) {
+    tag.remove(XmlNamespace::Host, kHostTitle);
   }
+}
+
+void SvgLayerWriter::editState(LayerId id, SvgTagEdit& tag) const {
+  const Layer& before = *writing_.changes.modelLayer(id);
+  const Layer& now = *writing_.document.layer(id);
+  if (losesMark(id)) {
+    tag.remove(XmlNamespace::Host, kHostAdded);
+    tag.set(XmlNamespace::Inkscape, "groupmode", "layer");
+  }
+  if (now.title != before.title || losesMark(id)) editTitle(id, tag);
   if (now.visible != before.visible) {
     tag.removeProperty("display");
+    if (now.visible) unflatten(writing_.source, before.source, tag);
     if (!now.visible) tag.setInStyle("display", "none");
     if (now.visible && writing_.declared.sheetSets("display")) tag.setInStyle("display", "inline");
   }

@@ -51,6 +51,12 @@ std::size_t SvgLayout::contentEnd(NodeIndex element) const {
   return end - breakBefore(end).size() * source_.unitSize();
 }
 
+NodeIndex SvgLayout::lastChild(NodeIndex element) const {
+  NodeIndex last = source_.node(element).firstChild;
+  while (last != 0 && source_.node(last).nextSibling != 0) last = source_.node(last).nextSibling;
+  return last;
+}
+
 NodeIndex SvgLayout::lastEditableChild(NodeIndex element) const {
   NodeIndex last = 0;
   for (NodeIndex at = source_.node(element).firstChild; at != 0; at = source_.node(at).nextSibling) {
@@ -84,6 +90,14 @@ std::string SvgLayout::closeBreak(NodeIndex element) const {
   std::string before = breakBefore(source_.node(element).begin);
   if (!before.empty()) return before;
   return hasLineBreaks() && element == source_.root() ? "\n" : "";
+}
+
+std::string SvgLayout::endTagName(NodeIndex element) const {
+  const auto [begin, end] = source_.rawName(element);
+  std::string name = source_.utf8(begin, end);
+  constexpr std::string_view kSwitch = "switch";
+  if (source_.is(element, kSwitch)) name.replace(name.size() - kSwitch.size(), kSwitch.size(), "g");
+  return name;
 }
 
 }  // namespace host

@@ -25,11 +25,15 @@ class SvgLayout {
   std::string childBreak(NodeIndex element) const;
   // What stands before the end tag of an element that has had none.
   std::string closeBreak(NodeIndex element) const;
+  // The name in the end tag that an empty-element tag gets with its first content, of which a <switch>
+  // becomes a plain group.
+  std::string endTagName(NodeIndex element) const;
   // By how much the children of an element stand further in than it does; empty without line breaks.
   std::string indent(NodeIndex element) const;
-  NodeIndex lastEditableChild(NodeIndex element) const;  // 0 if there is none
+  NodeIndex lastChild(NodeIndex element) const;  // 0 if there is none
 
  private:
+  NodeIndex lastEditableChild(NodeIndex element) const;
   std::size_t blanksBegin(std::size_t offset) const;
   bool hasLineBreaks() const;
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "Geometry.h"
-#include "SvgNumber.h"
+#include "SvgTransform.h"
 
 namespace host {
 namespace {
@@ -32,15 +32,6 @@ bool isIdentity(const AIRealMatrix& m) {
   constexpr double kPlace = 1e-9;
   return std::abs(m.a - 1) < kShape && std::abs(m.d - 1) < kShape && std::abs(m.b) < kShape &&
          std::abs(m.c) < kShape && std::abs(m.tx) < kPlace && std::abs(m.ty) < kPlace;
-}
-
-std::string transformText(const AIRealMatrix& m) {
-  std::string text = "matrix(";
-  for (const double number : {m.a, m.b, m.c, m.d, m.tx, m.ty}) {
-    if (text.back() != '(') text += ' ';
-    appendNumber(text, number);
-  }
-  return text + ")";
 }
 
 void keepPlace(SvgWriting& writing, NodeIndex element, const SvgPlace& place, SvgTagEdit& tag) {

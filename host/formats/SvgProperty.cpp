@@ -32,8 +32,10 @@ constexpr std::string_view kNames[kSvgPropertyCount] = {"baseline-shift",
                                                         "marker-mid",
                                                         "marker-start",
                                                         "mask",
+                                                        "mix-blend-mode",
                                                         "opacity",
                                                         "overflow",
+                                                        "paint-order",
                                                         "r",
                                                         "rx",
                                                         "ry",
@@ -80,7 +82,7 @@ std::optional<SvgProperty> propertyNamedInAnyCase(std::string_view name) {
 
 bool isPresentationAttribute(SvgProperty property) {
   return property != SvgProperty::Font && property != SvgProperty::Marker &&
-         property != SvgProperty::Transform;
+         property != SvgProperty::MixBlendMode && property != SvgProperty::Transform;
 }
 
 }  // namespace host

@@ -43,6 +43,7 @@ struct SvgStyle {
   SvgColour colour;
   bool visible = true;
   std::uint8_t markers = 0;  // not 0 if there are any
+  bool reordered = false;    // painted in another order than fill, stroke, markers
   double fontSize = 16;
   std::string_view fontFamily = "serif";
   int fontWeight = 400;
@@ -63,7 +64,8 @@ struct SvgStyle {
   double opacity = 1;  // of the element as a whole
   bool masked = false;
   bool filtered = false;
-  std::string_view clipPath;  // empty: none
+  std::string_view blendMode;  // such as "multiply"; empty: normal
+  std::string_view clipPath;   // empty: none
 };
 
 // What an element starts from that lies in another one.

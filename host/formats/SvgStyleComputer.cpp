@@ -49,6 +49,27 @@ constexpr Keyword<bool> kWritingModes[] = {
 constexpr Keyword<bool> kWhiteSpaces[] = {{"normal", false}, {"nowrap", false},  {"pre-line", false},
                                           {"pre", true},     {"pre-wrap", true}, {"break-spaces", true}};
 
+// Views of these last.
+constexpr Keyword<std::string_view> kBlendModes[] = {{"normal", ""},
+                                                     {"multiply", "multiply"},
+                                                     {"screen", "screen"},
+                                                     {"overlay", "overlay"},
+                                                     {"darken", "darken"},
+                                                     {"lighten", "lighten"},
+                                                     {"color-dodge", "color-dodge"},
+                                                     {"color-burn", "color-burn"},
+                                                     {"hard-light", "hard-light"},
+                                                     {"soft-light", "soft-light"},
+                                                     {"difference", "difference"},
+                                                     {"exclusion", "exclusion"},
+                                                     {"hue", "hue"},
+                                                     {"saturation", "saturation"},
+                                                     {"color", "color"},
+                                                     {"luminosity", "luminosity"}};
+// What is left out comes behind, in the usual order.
+constexpr Keyword<bool> kPaintOrders[] = {
+    {"normal", false}, {"fill", false}, {"fill stroke", false}, {"fill stroke markers", false}};
+
 constexpr double kAnyLength = -std::numeric_limits<double>::infinity();
 
 }  // namespace
@@ -78,6 +99,9 @@ bool SvgStyleComputer::set(SvgProperty property, std::string_view value) {
     case SvgProperty::MarkerMid:
     case SvgProperty::MarkerEnd:
       return setReference(property, value);
+    case SvgProperty::MixBlendMode:
+    case SvgProperty::PaintOrder:
+      return setPainting(property, value);
     case SvgProperty::Display:
     case SvgProperty::Visibility:
     case SvgProperty::Overflow:
@@ -118,6 +142,12 @@ bool SvgStyleComputer::setReference(SvgProperty property, std::string_view value
   if (property == SvgProperty::MarkerStart) setMarker(1);
   if (property == SvgProperty::MarkerMid) setMarker(2);
   if (property == SvgProperty::MarkerEnd) setMarker(4);
+  return true;
+}
+
+bool SvgStyleComputer::setPainting(SvgProperty property, std::string_view value) {
+  if (property == SvgProperty::MixBlendMode) return choose(style_.blendMode, kBlendModes, value);
+  if (!choose(style_.reordered, kPaintOrders, value)) style_.reordered = true;
   return true;
 }
 

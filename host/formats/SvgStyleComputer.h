@@ -31,6 +31,7 @@ class SvgStyleComputer {
   bool setVisibility(SvgProperty property, std::string_view value);
   bool setText(SvgProperty property, std::string_view value);
   bool setReference(SvgProperty property, std::string_view value);
+  bool setPainting(SvgProperty property, std::string_view value);
   bool setLength(double& target, std::string_view value, double least);
   double inUserUnits(SvgLength length) const;
 

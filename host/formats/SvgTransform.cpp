@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "Geometry.h"
+#include "SvgNumber.h"
 #include "SvgScanner.h"
 
 namespace host {
@@ -71,9 +72,12 @@ std::optional<AIRealMatrix> matrixOf(std::string_view function, const Arguments&
   return std::nullopt;
 }
 
-}  // namespace
+bool isUpright(const AIRealMatrix& matrix) {
+  AIRealMatrix inverse{};
+  return invert(matrix, inverse);
+}
 
-std::optional<AIRealMatrix> parseTransform(std::string_view text) {
+std::optional<AIRealMatrix> productOf(std::string_view text, bool onlyUpright) {
   AIRealMatrix product = kIdentity;
   text = withoutBlanksAround(text);
   if (text == "none") return product;
@@ -85,10 +89,29 @@ std::optional<AIRealMatrix> parseTransform(std::string_view text) {
     const std::optional<Arguments> arguments = readArguments(scanner);
     const std::optional<AIRealMatrix> matrix = arguments ? matrixOf(function, *arguments) : std::nullopt;
     if (!matrix) return std::nullopt;
-    product = concat(*matrix, product);
+    if (!onlyUpright || isUpright(*matrix)) product = concat(*matrix, product);
     scanner.skipCommaBlanks();
   }
   return product;
+}
+
+}  // namespace
+
+std::optional<AIRealMatrix> parseTransform(std::string_view text) {
+  return productOf(text, false);
+}
+
+std::optional<AIRealMatrix> parseUprightTransform(std::string_view text) {
+  return productOf(text, true);
+}
+
+std::string transformText(const AIRealMatrix& m) {
+  std::string text = "matrix(";
+  for (const double number : {m.a, m.b, m.c, m.d, m.tx, m.ty}) {
+    if (text.back() != '(') text += ' ';
+    appendNumber(text, number);
+  }
+  return text + ")";
 }
 
 }  // namespace host

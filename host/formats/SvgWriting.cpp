@@ -27,22 +27,33 @@ AIRealMatrix SvgWriting::documentFromContent(NodeIndex element) {
   const auto known = documentFromContents_.find(element);
   if (known != documentFromContents_.end()) return known->second;
   const bool hasViewport = source.is(element, "svg");
-  const AIRealMatrix found =
-      hasViewport ? documentFromContentOf(drawing, element)
-                  : concat(transformOf(source, element), documentFromContent(source.node(element).parent));
+  const AIRealMatrix found = hasViewport ? documentFromContentOf(drawing, element)
+                                         : concat(uprightTransformOf(source, element),
+                                                  documentFromContent(source.node(element).parent));
   if (hasViewport || source.node(element).firstChild != 0) documentFromContents_.emplace(element, found);
   return found;
 }
 
-SvgPlace placeAt(SvgWriting& writing, const SvgSpot& spot) {
-  const AIRealMatrix documentFromUser = writing.documentFromContent(spot.parent);
+SvgPlace placeInside(SvgWriting& writing, NodeIndex parent) {
+  const AIRealMatrix documentFromUser = writing.documentFromContent(parent);
   SvgPlace place;
-  place.parent = spot.parent;
+  place.parent = parent;
   place.userFromDocument = userFromDocument(writing, documentFromUser);
   place.documentUnitsPerUser = strokeScale(documentFromUser);
+  return place;
+}
+
+SvgPlace placeAt(SvgWriting& writing, const SvgSpot& spot) {
+  SvgPlace place = placeInside(writing, spot.parent);
   place.lineBreak = spot.lineBreak;
   place.indent = spot.indent;
   return place;
+}
+
+bool losesSwitch(const SvgWriting& writing, ArtId group, NodeIndex element) {
+  const SvgChanges& changes = writing.changes;
+  return writing.source.is(element, "switch") &&
+         (changes.elementOf(group) != element || changes.children(group) != changes.originalChildren(group));
 }
 
 AIRealMatrix userFromDocument(const SvgWriting& writing, const AIRealMatrix& documentFromUser) {

@@ -48,7 +48,14 @@ struct SvgPlace {
   SvgScope scope = kRootScope;
 };
 
+// Line breaks and scope are left to the caller.
+SvgPlace placeInside(SvgWriting& writing, NodeIndex parent);
 SvgPlace placeAt(SvgWriting& writing, const SvgSpot& spot);
+
+// A <switch> shows one of its children and hides the others. Once it holds others than it did it has to
+// become a plain group; so has a copy of it. `element` is what stands for the group in the file; any other
+// than a <switch> is not meant.
+bool losesSwitch(const SvgWriting& writing, ArtId group, NodeIndex element);
 
 // The inverse of a transform; where that flattens the plane nothing is ever seen, and the root's serves.
 AIRealMatrix userFromDocument(const SvgWriting& writing, const AIRealMatrix& documentFromUser);

@@ -18,15 +18,18 @@ namespace host {
 namespace {
 
 constexpr std::size_t kManyDrawings = 4;
-constexpr int kClickCounts = 60;  // ms
 
 // --- files ---
+
+std::string nameOf(const std::string& file) {
+  return std::filesystem::path(file).filename().string();
+}
 
 void open(Stage& stage) {
   if (stage.drawings().size() >= kManyDrawings) return stage.world().press(Qt::Key_W, Qt::ControlModifier);
   stage.world().filesToOpen = {stage.anyFile()};
   if (stage.chance.oneIn(4)) stage.world().filesToOpen.push_back(stage.anyFile());
-  stage.diary.note("opens " + stage.world().filesToOpen.back());
+  stage.diary.note("opens " + nameOf(stage.world().filesToOpen.back()));
   stage.world().press(Qt::Key_O, Qt::ControlModifier);
 }
 
@@ -40,7 +43,7 @@ void saveAs(Stage& stage) {
   std::string& file = stage.world().fileToSave;
   file = stage.newFile(isPossible ? ".svg" : "/missing/none.svg");
   if (stage.chance.oneIn(5)) file = stage.anyFile();
-  stage.diary.note("saves as " + file);
+  stage.diary.note("saves as " + nameOf(file));
   stage.world().press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
   if (std::filesystem::exists(file)) stage.keep(file);
   file.clear();
@@ -48,10 +51,12 @@ void saveAs(Stage& stage) {
 
 void exportAs(Stage& stage) {
   constexpr const char* kEnds[] = {".png", ".svg", ".pdf", ".txt", "/missing/none.pdf"};
-  stage.world().fileToSave = stage.newFile(stage.chance.anyOf(kEnds));
-  stage.diary.note("exports " + stage.world().fileToSave);
+  std::string& file = stage.world().fileToSave;
+  file = stage.newFile(stage.chance.anyOf(kEnds));
+  if (stage.chance.oneIn(5)) file = stage.anyFile();
+  stage.diary.note("exports to " + nameOf(file));
   stage.world().press(Qt::Key_E, Qt::ControlModifier);
-  stage.world().fileToSave.clear();
+  file.clear();
 }
 
 void close(Stage& stage) {
@@ -205,7 +210,7 @@ void useAny(Stage& stage, const QWidget& top) {
   if (QWidget* widget = anyWidgetIn(top, stage.chance)) useWidget(*widget, stage.chance, stage.diary);
 }
 
-void clickPalette(Stage& stage) {
+void usePalette(Stage& stage) {
   QDockWidget* const palette = stage.palette();
   if (palette == nullptr) return stage.chooseProductMenu("Create Line Type Layers");
   auto* const list = palette->findChild<QListWidget*>();
@@ -224,24 +229,16 @@ void clickPalette(Stage& stage) {
   useAny(stage, *palette);
 }
 
-// A click on its list counts a little later, when no second one has come.
-void usePalette(Stage& stage) {
-  clickPalette(stage);
-  QTest::qWait(kClickCounts);
-}
-
 void usePanel(Stage& stage) {
   std::vector<QDockWidget*> shown;
   for (QDockWidget* dock : stage.window().findChildren<QDockWidget*>()) {
     if (dock->isVisible()) shown.push_back(dock);
   }
   if (!shown.empty()) useAny(stage, *stage.chance.anyOf(shown));
-  QTest::qWait(kClickCounts);
 }
 
 void useWindow(Stage& stage) {
   useAny(stage, stage.window());
-  QTest::qWait(kClickCounts);
 }
 
 void useMenus(Stage& stage) {

@@ -21,8 +21,8 @@ namespace host {
 namespace {
 
 constexpr char kPaletteKey[] = "Create Line Type Layers";
-constexpr int kPatience = 10000;     // ms
-constexpr int kFocusGoesBack = 120;  // ms; a palette that comes up keeps the keys so long
+constexpr int kPatience = 10000;  // ms
+constexpr int kRest = 200;        // ms; by then clicks have counted and keys are back where they belong
 
 // Layers of line types among others, some locked or hidden; text, an instance, a clip, a gradient, a compound
 // path, an open path, groups in groups, two artboards.
@@ -52,6 +52,8 @@ constexpr char kMixture[] =
 
 Stage::Stage(std::uint64_t seed, bool aloud) : chance(seed), diary(aloud) {
   setenv("CORVANE_SHARED_DATA", scratch_.file("shared").c_str(), 1);
+  setenv("HOME", scratch_.path.c_str(), 1);  // menus show files in it under the same names each time
+  qSetGlobalQHashSeed(0);                    // the same order each time
   for (const char* name : {"full-bleed-poster", "sticker-sheet", "two-cards-a4"}) {
     const std::string bytes = readText(std::string(CORVANE_EXAMPLES) + "/" + name + ".svg");
     keep(scratch_.write(name + std::string(".svg"), bytes));
@@ -72,6 +74,7 @@ void Stage::startAgain() {
   Folders folders;
   folders.state = scratch_.file("state");
   world_.emplace(std::vector{corvaneBundle()}, folders, 1);
+  menu_ = firstItem();
 }
 
 // --- what is there ---
@@ -147,26 +150,24 @@ void Stage::chooseAnyInMenus() {
 
 // --- time ---
 
+AIMenuItemHandle Stage::firstItem() {
+  return (*world().host.menus().items().begin()).handle;
+}
+
 bool Stage::isQuiet() {
   return world().session.isIdle() && QApplication::activeModalWidget() == nullptr;
 }
 
 bool Stage::settle() {
-  const bool hasPalette = palette() != nullptr;
-  if (std::exchange(hadPalette_, hasPalette) != hasPalette) QTest::qWait(kFocusGoesBack);
-  for (int i = 0; i < 3; ++i) {
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
+  QTest::qWait(chance.oneIn(5) ? 1 : kRest);  // some users are quick
   const bool isThere = QTest::qWaitFor([this] { return isQuiet() || dialogs.isStuck(); }, kPatience);
   // Another language comes when the session was idle for a moment: with a new menu.
   const std::string chosen = WindowSettings(world().host.preferences()).language();
-  if (chosen == language_ || !isThere) return isThere && isQuiet();
-  language_ = chosen;
+  if (std::exchange(language_, chosen) == chosen || !isThere) return isThere && isQuiet();
   ++lives_;
-  const AIMenuItemHandle before = (*world().host.menus().items().begin()).handle;
-  const auto hasCome = [&] { return (*world().host.menus().items().begin()).handle != before; };
-  return QTest::qWaitFor(hasCome, kPatience) && isQuiet();
+  const bool hasCome = QTest::qWaitFor([this] { return firstItem() != menu_; }, kPatience);
+  menu_ = firstItem();
+  return hasCome && isQuiet();
 }
 
 }  // namespace host

@@ -41,7 +41,7 @@ class Stage {
   int lives() const { return lives_; }  // of the plug-in, so far; another language is another life
   // The application ends, if it is still there, and starts again.
   void startAgain();
-  // Waits until nothing is under way. False if that never comes.
+  // Waits until nothing is under way, mostly until no timer runs either. False if that never comes.
   bool settle();
 
   Chance chance;
@@ -50,12 +50,13 @@ class Stage {
 
  private:
   bool isQuiet();
+  AIMenuItemHandle firstItem();
 
   ScratchFolder scratch_;
   std::vector<std::string> files_;
-  bool hadPalette_ = false;
   int made_ = 0;
   int lives_ = 0;
+  AIMenuItemHandle menu_ = nullptr;  // the first item of this life
   std::string language_;
   std::optional<WindowWorld> world_;
 };

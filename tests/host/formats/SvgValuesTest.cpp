@@ -15,11 +15,13 @@
 #include "SvgTransform.h"
 #include "SvgUrl.h"
 #include "SvgViewBox.h"
+#include "SvgXmlText.h"
 
 namespace host {
 namespace {
 
-TEST(SvgScanner, ReadsNumbersExactly) {
+// One reader for much data, one for a single value, which may not be endless.
+TEST(SvgNumbers, AreReadExactlyAndAlikeByBothReaders) {
   const double infinity = std::numeric_limits<double>::infinity();
   struct Case {
     const char* text;
@@ -44,11 +46,19 @@ TEST(SvgScanner, ReadsNumbersExactly) {
                         {".", std::nullopt, "."},
                         {"+", std::nullopt, "+"},
                         {"-.e5", std::nullopt, "-.e5"},
+                        {"0x10", 0, "x10"},
+                        {"0.0000e5", 0, ""},
+                        {"--1", std::nullopt, "--1"},
+                        {"", std::nullopt, ""},
                         {"nan", std::nullopt, "nan"}};
   for (const Case& example : cases) {
     SvgScanner scanner(example.text);
     EXPECT_EQ(scanner.number(), example.value) << example.text;
     EXPECT_EQ(scanner.rest(), example.rest) << example.text;
+    std::string_view text = example.text;
+    const bool isFinite = example.value && std::isfinite(*example.value);
+    EXPECT_EQ(takeNumber(text), isFinite ? example.value : std::nullopt) << example.text;
+    EXPECT_EQ(text, isFinite ? example.rest : example.text);
   }
 }
 
@@ -197,6 +207,7 @@ TEST(SvgNames, AreDecodedAndQuoted) {
   EXPECT_EQ(decodedId("_x00E4_"), "\xC3\xA4");
   EXPECT_EQ(decodedId("a_xyz_ _x_ _x0_ _xD800_ _x20"), "a_xyz_ _x_ _x0_ _xD800_ _x20");
   EXPECT_EQ(host::quoted("a\nb"), "\"a b\"");
+  EXPECT_EQ(escapedAttribute("<\n\"'\x01"), "&lt;&#10;&quot;'\xEF\xBF\xBD");
   EXPECT_EQ(host::quoted(std::string(59, 'x') + "\xC3\xA4!"), "\"" + std::string(59, 'x') + "...\"");
 }
 

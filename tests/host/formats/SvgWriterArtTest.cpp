@@ -1,9 +1,17 @@
+#include "Duplicate.h"
 #include "SvgWriterCase.h"
 
 namespace host {
 namespace {
 
+std::string wide(const std::string& ascii) {
+  std::string bytes = "\xFF\xFE";
+  for (const char c : ascii) bytes.append({c, '\0'});
+  return bytes;
+}
+
 std::vector<SvgWriterCase> artCases() {
+  const std::string latin = "<?xml version='1.0' encoding='ISO-8859-1'?>\n";
   const std::string group =
       "\n <g id='g'>\n  <path id='a' d='M0 0h1'/>\n  <path id='b' d='M0 0h1'/>\n </g>\n";
   return {
@@ -66,10 +74,6 @@ std::vector<SvgWriterCase> artCases() {
          d.document->moveArt(named(d, "a"), kPlaceInsideOnTop, compound);
        },
        file("<text>t</text><path fill=\"#ff0000\" d=\"M 1,1 L 2,1 L 2,2 Z M 0,0 L 9,0 L 9,9 Z\"/>")},
-      {"art that changes its order",
-       file("\n <path id='a' d='M0 0h1'/>\n <path id='b' d='M0 0h1'/>\n <path id='c' d='M0 0h1'/>\n"),
-       [](SvgDrawing& d) { d.document->moveArt(named(d, "a"), kPlaceAbove, named(d, "c")); },
-       file("\n <path id='b' d='M0 0h1'/>\n <path id='c' d='M0 0h1'/>\n <path id='a' d='M0 0h1'/>\n")},
       {"art that moves between groups of different looks",
        file("<g fill='red' transform='scale(2)' xmlns:x='urn:x'><path id='a' x:y='1' d='M0 0h1v1z'/></g>"
             "<g id='g' stroke='blue' transform='translate(0 -1)'><path d='M0 0h1'/></g>"),
@@ -78,6 +82,27 @@ std::vector<SvgWriterCase> artCases() {
             "<g id='g' stroke='blue' transform='translate(0 -1)'><path id='a' x:y='1' d='M0 0h1v1z'"
             " transform=\"matrix(2 0 0 2 0 1)\" fill=\"red\" stroke=\"none\" xmlns:x=\"urn:x\"/>"
             "<path d='M0 0h1'/></g>")},
+      {"art in a group that is pressed flat", file("<g id='g' transform='translate(9) scale(0)'/><text/>"),
+       [](SvgDrawing& d) {
+         EXPECT_EQ(d.remarks.back().reason, "its transform flattens it, so it is not drawn");
+         addPath(d, named(d, "g"), {{6.75, 72}, {7.5, 72}, {7.5, 71.25}}, filled(rgb(0, 0, 0)));
+       },
+       file("<g id='g' transform='translate(9) scale(0)'><path d=\"M 0,0 L 1,0 L 1,1 Z\"/></g><text/>")},
+      {"a copy, with all that only its element says",
+       file("<g id='g' clip-path='url(#k)'><path id='a' d='M0 0h1v1z' opacity='.5' style='display:none'/></g>"
+            "<clipPath id='k'><path d='M0 0h1v1z'/></clipPath><text id='t'/>"),
+       [](SvgDrawing& d) { duplicateArt(*d.document, named(d, "g"), kPlaceAbove, named(d, "t")); },
+       file("<g id='g' clip-path='url(#k)'><path id='a' d='M0 0h1v1z' opacity='.5' style='display:none'/></g>"
+            "<clipPath id='k'><path d='M0 0h1v1z'/></clipPath><text id='t'/>"
+            "<g clip-path='url(#k)'><path d='M0 0h1v1z' opacity='.5' style='display:none'/></g>")},
+      {"art that leaves the one place of a choice",
+       file("<switch><g id='x' systemLanguage='xx'/><path id='a' d='M0 0h1'/><path id='b' d='M0 "
+            "0h2'/></switch>"),
+       [](SvgDrawing& d) {
+         d.document->moveArt(named(d, "a"), kPlaceAbove, d.document->art(named(d, "a"))->parent);
+       },
+       file("<g><g id='x' systemLanguage='xx' style=\"display:none\"/><path id='b' d='M0 0h2' "
+            "style=\"display:none\"/></g><path id='a' d='M0 0h1'/>")},
       {"art that moves out of what is deleted, changed",
        file("\n<g id='g'>\n <g id='h'>\n  <path id='a' d='M0 0h1'/>\n  <path id='b' d='M0 0h1'/>\n "
             "</g>\n</g>\n"
@@ -91,13 +116,6 @@ std::vector<SvgWriterCase> artCases() {
        file("\n<path id='c' d='M0 0h1'/>\n<g id='h'>\n  <path id='a' d='M0 0h1' inkscape:label=\"A\"/>\n "
             "</g>\n",
             kInk)},
-      {"art that goes into a new group", file("\n <path id='a' d='M0 0h1'/>\n <path id='b' d='M0 0h1'/>\n"),
-       [](SvgDrawing& d) {
-         const ArtId made = d.document->newArt(kGroupArt, kPlaceAbove, named(d, "b")).value();
-         d.document->moveArt(named(d, "a"), kPlaceInsideOnTop, made);
-         d.document->moveArt(named(d, "b"), kPlaceInsideOnTop, made);
-       },
-       file("\n <g>\n  <path id='a' d='M0 0h1'/>\n  <path id='b' d='M0 0h1'/>\n </g>\n")},
       {"art out of an entity",
        "<!DOCTYPE svg [<!ENTITY e '<path id=\"a\" d=\"M0 0h1\"/>'>]>\n" + file("\n &e;<text>&e;</text>\n"),
        [](SvgDrawing& d) { d.document->setName(named(d, "a"), "A"); },
@@ -105,6 +123,19 @@ std::vector<SvgWriterCase> artCases() {
            file("\n <path id=\"a\" d=\"M0 0h1\" inkscape:label=\"A\"/><text><path id=\"a\" d=\"M0 "
                 "0h1\"/></text>\n",
                 kInk)},
+      {"a name in the file's own encoding", latin + file("<text id='a'>\xE4</text>", kInk),
+       [](SvgDrawing& d) { d.document->setName(named(d, "a"), "\xC3\xA4\xE2\x82\xAC"); },
+       latin + file("<text id='a' inkscape:label=\"\xE4&#8364;\">\xE4</text>", kInk)},
+      {"a layout in UTF-16", wide(file("\r\n <path id='a' d='M0 0h1'/>\r\n <g id='b' />\r\n", kInk)),
+       [](SvgDrawing& d) {
+         d.document->deleteArt(named(d, "a"));
+         d.document->setName(named(d, "b"), "B");
+         d.document->newArt(kGroupArt, kPlaceInsideOnTop, named(d, "b"));
+         d.document->newArt(kPathArt, kPlaceAbove, named(d, "b"));
+       },
+       wide(file(
+           "\r\n <g id='b' inkscape:label=\"B\">\r\n   <g/>\r\n </g>\r\n <path fill=\"none\" d=\"\"/>\r\n",
+           kInk))},
       {"a prefix of the file that means something else",
        file("<path id='a' d='M0 0h1'/>", " xmlns:inkscape='urn:x'"),
        [](SvgDrawing& d) { d.document->setName(named(d, "a"), "A"); },

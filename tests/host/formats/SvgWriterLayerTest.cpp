@@ -34,8 +34,6 @@ std::vector<SvgWriterCase> layerCases() {
        file("\r\n <path d='M0 0h1'/>" + marksLayer("\r\n ", "\r\n  ", kBoth) + "\r\n")},
       {"marks in a file of one line", file("<path d='M0 0h1'/>"), mark,
        file("<path d='M0 0h1'/>" + marksLayer("", "", kBoth))},
-      {"marks with prefixes bound", file("<path d='M0 0h1'/>", kBoth), mark,
-       file("<path d='M0 0h1'/>" + marksLayer("", ""), kBoth)},
       {"marks among elements with a prefix",
        "<s:svg xmlns:s='http://www.w3.org/2000/svg' width='9pt' height='9pt'>\n <s:text/>\n</s:svg>",
        [](SvgDrawing& d) { d.document->newArt(kGroupArt, kPlaceInsideOnTop, newLayerRoot(d, "A")); },
@@ -53,6 +51,25 @@ std::vector<SvgWriterCase> layerCases() {
        [](SvgDrawing& d) { addLayer(d, "", kPlaceBelowAll); },
        file("\n <defs/>\n <g" + kBoth +
             " inkscape:groupmode=\"layer\" ch:added=\"layer\"/>\n <path d='M0 0h1'/>\n")},
+      {"art on a layer that is only implied, below marks",
+       file("\n <g inkscape:groupmode='layer' inkscape:label='Marks' ch:added='layer'/>\n", kBoth),
+       [](SvgDrawing& d) { d.document->newArt(kPathArt, kPlaceInsideOnTop, rootOf(d, 1)); },
+       file("\n <path fill=\"none\" d=\"\"/>"
+            "\n <g inkscape:groupmode='layer' inkscape:label='Marks' ch:added='layer'/>\n",
+            kBoth)},
+      {"loose art that all goes, below a layer of the file",
+       file("\n <path d='M0 0h1'/>\n <g inkscape:groupmode='layer' inkscape:label='A'/>\n", kInk),
+       [](SvgDrawing& d) { d.document->deleteArt(d.document->art(rootOf(d, 1))->firstChild); },
+       file("\n <g inkscape:groupmode=\"layer\" inkscape:label=\"Layer 1\"/>"
+            "\n <g inkscape:groupmode='layer' inkscape:label='A'/>\n",
+            kInk)},
+      {"a layer of the file that loses its title and the only other one",
+       file("<g id='A'><path d='M0 0h1'/></g><g id='B'/>", kBoth),
+       [](SvgDrawing& d) {
+         d.document->deleteLayer(d.document->state().layers[0]);
+         d.document->editLayer(d.document->state().layers[0]).title.clear();
+       },
+       file("<g id='A' inkscape:label=\"\" ch:title=\"\"><path d='M0 0h1'/></g>", kBoth)},
       {"a new layer between two, hidden and locked",
        file("\n<g id='A'><path d='M0 0h1'/></g>\n<g id='B'><path d='M0 0h1'/></g>\n", kBoth),
        [](SvgDrawing& d) {
@@ -153,8 +170,7 @@ std::vector<SvgWriterCase> layerCases() {
          d.document->deleteLayer(d.document->state().layers[0]);
          addLayer(d, "A");
        },
-       kOpen + "><g" + kBoth +
-           " inkscape:groupmode=\"layer\" inkscape:label=\"A\" ch:added=\"layer\"/></svg>"},
+       kOpen + "><g" + kInk + " inkscape:groupmode=\"layer\" inkscape:label=\"A\"/></svg>"},
   };
 }
 

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
+#include "DocumentChecks.h"
 #include "Handles.h"
 
 namespace host {
@@ -96,82 +95,10 @@ LayerId addLayer(SvgDrawing& drawing, const std::string& title, AIPaintOrder ord
   return id;
 }
 
-namespace {
-
-std::string text(double number) {
-  return std::to_string(std::round(number * 1e6) / 1e6 + 0.0);
-}
-
-std::string describe(const AIColor& color, const Document& document) {
-  std::string line = std::to_string(color.kind);
-  const AIReal* const numbers = color.kind == kCustomColor ? &color.c.c.tint : &color.c.f.cyan;
-  const int counts[] = {1, 4, 0, 1, 0, 3, 0};
-  for (int i = 0; i < counts[color.kind]; ++i) line += " " + text(numbers[i]);
-  if (color.kind != kCustomColor) return line;
-  const auto id = idOfHandle(color.c.c.color, HandleKind::CustomColor, document.serial());
-  return line + " " + document.customColor(id)->name;
-}
-
-std::string describe(const AIPathStyle& style, const Document& document) {
-  std::string line;
-  if (style.fillPaint) {
-    line += " fill " + describe(style.fill.color, document) + (style.fill.overprint ? " over" : "");
-  }
-  if (style.evenodd) line += " evenodd";
-  if (!style.strokePaint) return line;
-  const AIStrokeStyle& stroke = style.stroke;
-  line += " stroke " + describe(stroke.color, document) + (stroke.overprint ? " over" : "");
-  line += " width " + text(stroke.width) + " cap " + std::to_string(stroke.cap) + " join " +
-          std::to_string(stroke.join) + " limit " + text(stroke.miterLimit) + " dash";
-  for (int i = 0; i < stroke.dash.length; ++i) line += " " + text(stroke.dash.array[i]);
-  return stroke.dash.length > 0 ? line + " from " + text(stroke.dash.offset) : line;
-}
-
-std::string describe(const PathGeometry& path) {
-  std::string line = path.closed ? " closed" : " open";
-  for (const AIPathSegment& segment : path.segments) {
-    for (const AIRealPoint point : {segment.in, segment.p, segment.out}) {
-      line += " " + text(point.x) + "," + text(point.y);
-    }
-  }
-  return line;
-}
-
-std::string describe(const Document& document, ArtId id, const std::string& indent) {
-  const Art& art = *document.art(id);
-  std::string lines;
-  for (ArtId child = art.firstChild; child != 0; child = document.art(child)->below) {
-    lines += describe(document, child, indent + " ");
-  }
-  if (art.type == kGroupArt && lines.empty()) return lines;
-  // A part of a compound path is no element that could have a name.
-  const bool isPart = art.type == kPathArt && !art.style;
-  std::string line = indent + std::to_string(art.type) + " " + (isPart ? "" : art.name);
-  if (art.style) line += describe(*art.style, document);
-  if (art.path) line += describe(*art.path);
-  return line + "\n" + lines;
-}
-
-}  // namespace
-
 std::string describe(const Document& document) {
-  std::string lines;
-  for (const LayerId id : document.state().layers) {
-    const Layer& layer = *document.layer(id);
-    const std::string content = describe(document, layer.root, " ");
-    if (content.empty() && layer.title == "Layer 1") continue;
-    lines += "layer " + layer.title + (layer.visible ? "" : " hidden") + (layer.editable ? "" : " locked") +
-             (layer.step ? " step " + *layer.step : "") + "\n" + content;
-  }
-  for (const SwatchGroupId id : document.state().swatchGroups) {
-    lines += "group " + document.swatchGroup(id)->name + "\n";
-  }
-  for (const SwatchId id : document.state().swatches) {
-    const Swatch& swatch = *document.swatch(id);
-    lines += "swatch " + swatch.name + " " + describe(swatch.color, document) +
-             (swatch.group ? " in " + document.swatchGroup(swatch.group)->name : "") + "\n";
-  }
-  return lines;
+  std::string text;
+  for (const std::string& line : contentLines(document)) text += line + "\n";
+  return text;
 }
 
 std::string saved(const SvgDrawing& drawing) {

@@ -32,8 +32,7 @@ ArtId addPath(SvgDrawing& drawing, ArtId group, std::initializer_list<AIRealPoin
 LayerId addLayer(SvgDrawing& drawing, const std::string& title, AIPaintOrder order = kPlaceAboveAll,
                  LayerId reference = 0);
 
-// All that has to survive a save, one object a line, with numbers to six places. Groups without content
-// are left out, and so is a layer "Layer 1" without any: files have no words for them.
+// All that has to survive a save, one object a line.
 std::string describe(const Document& document);
 
 // Saves, reads back, expects the same document and the same bytes from a second save, and gives them.

@@ -10,6 +10,8 @@
 namespace host {
 namespace {
 
+constexpr double kLargest = 1e12;  // document units
+
 class Checker {
  public:
   explicit Checker(const Document& document) : document_(document) {}
@@ -28,6 +30,8 @@ class Checker {
     if (!holds) broken_.push_back(promise);
   }
   static std::string named(const char* kind, ObjectId id) { return kind + (" " + std::to_string(id)); }
+
+  static bool isUsable(double number) { return std::abs(number) <= kLargest; }
 
   void checkLayers() {
     std::set<LayerId> listed;
@@ -78,19 +82,34 @@ class Checker {
       expect(isPainted == (art->style != nullptr), named("art", id) + " has a style if it is painted");
       if (art->style) checkStyle(*art->style, named("art", id));
       if (art->path) checkPath(*art->path, named("art", id));
+      if (art->body) checkBody(*art->body, named("art", id));
+    }
+  }
+  void checkBody(const Body& body, const std::string& whose) {
+    for (const Body::Part& part : body.parts) {
+      for (const PathGeometry& path : part.paths) checkPath(path, whose);
+      checkStyle(part.style, whose);
     }
   }
   void checkPath(const PathGeometry& path, const std::string& whose) {
     for (const AIPathSegment& segment : path.segments) {
       for (const AIRealPoint& point : {segment.in, segment.p, segment.out}) {
-        if (!std::isfinite(point.x) || !std::isfinite(point.y)) expect(false, whose + " is somewhere");
+        if (!isUsable(point.x) || !isUsable(point.y)) expect(false, whose + " is somewhere");
       }
     }
   }
   void checkStyle(const AIPathStyle& style, const std::string& whose) {
     if (style.fillPaint != 0) checkColor(style.fill.color, whose + "'s fill");
     if (style.strokePaint != 0) checkColor(style.stroke.color, whose + "'s stroke");
-    expect(std::isfinite(style.stroke.width) && style.stroke.width >= 0, whose + " has a width");
+    const AIStrokeStyle& stroke = style.stroke;
+    expect(isUsable(stroke.width) && stroke.width >= 0, whose + " has a width");
+    expect(std::isfinite(stroke.miterLimit) && stroke.miterLimit >= 1, whose + "'s miters have their limit");
+    expect(
+        stroke.dash.length >= 0 && stroke.dash.length <= kMaxDashComponents && isUsable(stroke.dash.offset),
+        whose + "'s dashes have their room");
+    for (int i = 0; i < std::min<int>(stroke.dash.length, kMaxDashComponents); ++i)
+      expect(std::isfinite(stroke.dash.array[i]) && stroke.dash.array[i] >= 0,
+             whose + "'s dash has a length");
   }
   void checkColor(const AIColor& color, const std::string& whose) {
     if (color.kind == kCustomColor) {
@@ -126,6 +145,12 @@ class Checker {
         std::find(state.layers.begin(), state.layers.end(), state.currentLayer) != state.layers.end();
     expect(isListed || (state.layers.empty() && state.currentLayer == 0), "the current layer is listed");
     expect(state.activeArtboard < state.artboards.size(), "the active artboard is there");
+    for (const Artboard& board : state.artboards) {
+      const AIRealRect& place = board.position;
+      const bool isSomewhere =
+          isUsable(place.left) && isUsable(place.right) && isUsable(place.top) && isUsable(place.bottom);
+      expect(isSomewhere && place.right > place.left && place.top > place.bottom, "an artboard has a size");
+    }
   }
 
   void checkSelection() {
@@ -165,6 +190,7 @@ class Content {
 
   std::vector<std::string> lines() {
     for (const LayerId id : document_.state().layers) addLayer(*document_.layer(id));
+    if (lines_.empty()) lines_.emplace_back("layer Layer 1");  // nor has it any for a drawing without layers
     for (const SwatchGroupId id : document_.state().swatchGroups) {
       lines_.push_back("group " + document_.swatchGroup(id)->name);
     }
@@ -183,14 +209,13 @@ class Content {
   }
 
  private:
-  // A file has no words for groups without content, nor for the one layer of an empty drawing.
   void addLayer(const Layer& layer) {
     lines_.push_back("layer " + layer.title + (layer.visible ? "" : " hidden") +
-                     (layer.editable ? "" : " locked"));
-    const std::size_t before = lines_.size();
+                     (layer.editable ? "" : " locked") + (layer.step ? " step " + *layer.step : "") +
+                     (document_.art(layer.root)->clip ? " clipped" : ""));
     addArt(layer.root, " ");
-    if (lines_.size() == before && layer.title == "Layer 1") lines_.pop_back();
   }
+  // A file has no words for groups without content.
   bool addArt(ArtId id, const std::string& indent) {
     const Art& art = *document_.art(id);
     const std::size_t place = lines_.size();
@@ -198,7 +223,8 @@ class Content {
     if (art.parent != 0) {
       lines_.push_back(indent + std::to_string(art.type) + " " + (isPart ? "" : art.name) +
                        (art.hidden ? " hidden" : "") + (art.locked ? " locked" : "") +
-                       (art.style ? textOf(*art.style) : "") + (art.path ? textOf(*art.path) : ""));
+                       (art.clip ? " clipped" : "") + (art.style ? textOf(*art.style) : "") +
+                       (art.path ? textOf(*art.path) : ""));
     }
     bool isEmpty = true;
     for (ArtId child = art.firstChild; child != 0; child = document_.art(child)->below) {
