@@ -149,7 +149,10 @@ void FileCommands::exportAs() {
   OpenDrawing* drawing = parts_.drawing();
   if (drawing == nullptr || !chooser_.toExport) return;
   const std::string output = chooser_.toExport(&parts_.window, proposedExport(*drawing));
-  if (!output.empty()) exportFromWindow(parts_, output);
+  if (output.empty()) return;
+  const std::string reason = parts_.workspace.whyNotOver(output);
+  if (!reason.empty()) return parts_.tell({"cannot export to " + output + ": " + reason});
+  exportFromWindow(parts_, output);
 }
 
 // Whatever happens to the process meanwhile, the work is on the disk.

@@ -17,6 +17,8 @@ namespace fs = std::filesystem;
 
 constexpr auto kInNoFile = std::numeric_limits<std::uint64_t>::max();  // no state of a document
 
+constexpr char kOpenElsewhere[] = "it is open in another tab";
+
 std::string absoluteName(const std::string& file) {
   std::error_code error;
   const fs::path path = fs::absolute(file, error);
@@ -65,12 +67,18 @@ OpenDrawing& Workspace::add(SvgDrawing drawing, const std::string& title, const 
 std::string Workspace::save(OpenDrawing& drawing, const std::string& file) {
   const std::string target = absoluteName(file);
   const OpenDrawing* const other = drawingOf(target);
-  if (other != nullptr && other != &drawing) return "cannot save " + target + ": it is open in another tab";
+  if (other != nullptr && other != &drawing) return "cannot save " + target + ": " + kOpenElsewhere;
   if (std::string reason = saveBytes(target, writeSvg(drawing.drawing)); !reason.empty()) return reason;
   drawing.shown->file = target;
   drawing.shown->title = titleOf(target);
   drawing.savedState = drawing.document().stateMark();
   return {};
+}
+
+std::string Workspace::whyNotOver(const std::string& file) const {
+  const OpenDrawing* const open = drawingOf(file);
+  if (open == nullptr) return {};
+  return open == current() ? "it is the drawing itself, which \"Save\" writes" : kOpenElsewhere;
 }
 
 void Workspace::close(const OpenDrawing& drawing) {

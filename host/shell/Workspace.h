@@ -30,6 +30,8 @@ class Workspace {
   // Writes the drawing to a file, which is its own from then on. Empty, or a sentence on why it was not
   // saved.
   std::string save(OpenDrawing& drawing, const std::string& file);
+  // Empty, or a clause on why nothing but a saved drawing may be written there: the file is open.
+  std::string whyNotOver(const std::string& file) const;
   void close(const OpenDrawing& drawing);  // the reference ends; changes are gone
   void makeCurrent(const OpenDrawing& drawing);
 

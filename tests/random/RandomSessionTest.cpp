@@ -1,6 +1,6 @@
 // Sessions of a user who does anything whatever. A failure tells the seed, and what was done last:
-// CORVANE_SEED=7 CORVANE_ACTIONS=100000 test-random plays the session of that seed, as long as wanted, and
-// tells every action before it is done.
+// CORVANE_SEED=7 CORVANE_ACTIONS=100000 test-random plays the very session of that seed, as long as wanted,
+// and tells every action before it is done.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

@@ -73,6 +73,34 @@ TEST_F(WindowTest, ExportWritesTheFormatOfTheName) {
   EXPECT_EQ(scratch.count(), 2U);
 }
 
+TEST_F(WindowTest, NothingIsWrittenOverAFileThatIsOpen) {
+  const std::string other = scratch.write("other.svg", squareOnPage(10));
+  const std::string own = scratch.write("own.svg", squareOnPage(20));
+  fs::create_symlink(other, scratch.file("link.svg"));
+  window.openFiles({other, own});
+  const struct {
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    std::string file, said;
+  } ways[] = {
+      {Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier, other, "Cannot save * another tab"},
+      {Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier, scratch.file("link.svg"),
+       "Cannot save * another tab"},
+      {Qt::Key_E, Qt::ControlModifier, other, "Cannot export to * another tab"},
+      {Qt::Key_E, Qt::ControlModifier, own, "Cannot export to * the drawing itself"},
+  };
+  for (const auto& way : ways) {
+    world.fileToSave = way.file;
+    const BoxAnswer answer(Qt::Key_Return);
+    world.press(way.key, way.modifiers);
+    ASSERT_TRUE(answer.seen()) << way.said;
+    const std::size_t star = way.said.find('*');
+    EXPECT_THAT(answer.seen()->text,
+                AllOf(StartsWith(way.said.substr(0, star) + way.file), HasSubstr(way.said.substr(star + 2))));
+  }
+  EXPECT_TRUE(readText(other) == squareOnPage(10) && readText(own) == squareOnPage(20));
+}
+
 TEST_F(WindowTest, RemarksAreCountedAndListed) {
   window.openFiles({scratch.write(
       "odd.svg",

@@ -71,16 +71,11 @@ TEST_F(MarksStory, TheDialogMakesTheMarksItSays) {
     for (const AIRealPoint& mark : marks) expectCrossAt(user, mark, 56.693);
     EXPECT_NEAR(realOf(user, "Size"), 56.693, 0.001);
 
-    user.press("Ctrl+z");
-    waitForArt(user, kMarkLayer, 0);
-    waitForColour(user, marks[0], kWhite);
-    user.press("Ctrl+Shift+z");
-    waitForArt(user, kMarkLayer, marks.size());
-    waitForColour(user, marks[0], kBlack);
     const std::string step = user.see([&] { return "Undo " + world.document().undoName(); });
     EXPECT_THAT(step, HasSubstr("Add brevia Register Marks"));
     user.chooseMenu({"Edit", step});
     waitForArt(user, kMarkLayer, 0);
+    waitForColour(user, marks[0], kWhite);
 
     openDialog(user);
     EXPECT_EQ(user.valueOf("Size:"), "56.693 pt");

@@ -73,16 +73,6 @@ std::vector<std::string> WindowStory::layers(const User& user) {
   });
 }
 
-void WindowStory::answerMessage(const User& user, const std::string& text) {
-  user.wait("a message", [] {
-    const QWidget* modal = QApplication::activeModalWidget();
-    return modal != nullptr && modal->isActiveWindow();
-  });
-  EXPECT_TRUE(user.isThere(text)) << user.texts();
-  user.shoot("message");
-  user.press("Return");
-}
-
 std::vector<std::string> WindowStory::productMenu(const User& user, const std::string& key) {
   return user.see([&] {
     return std::vector<std::string>{"Window", world.textOf("Vandrell"), world.textOf("corvane "),

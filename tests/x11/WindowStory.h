@@ -35,8 +35,6 @@ class WindowStory : private SharedData, public WindowTest {
   void waitForArt(const User& user, const std::string& layer, std::size_t count);
   // From the top.
   std::vector<std::string> layers(const User& user);
-  // The message is up; it goes with Return.
-  void answerMessage(const User& user, const std::string& text);
 
   // In the thread of the window.
   static QRgb colourOfPixel(const QPoint& place);  // of the screen

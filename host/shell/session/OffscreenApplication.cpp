@@ -18,7 +18,9 @@ void ensureApplication() {
   static std::string name = kProgramName;
   static char* argv[] = {name.data(), nullptr};
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  static const GuardedApplication application(argc, argv);
+  // What belongs to the thread ends before all statics, of which Qt makes many as they are needed and needs
+  // some of them when the application ends.
+  static thread_local const GuardedApplication application(argc, argv);
   qInstallMessageHandler(before);
 }
 

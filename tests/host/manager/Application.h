@@ -11,7 +11,7 @@ inline void ensureApplication() {
   static int argc = 1;
   static char name[] = "test";
   static char* argv[] = {name, nullptr};
-  static const QApplication application(argc, argv);
+  static thread_local const QApplication application(argc, argv);
 }
 
 class WidgetTest : public testing::Test {

@@ -229,12 +229,12 @@ TEST(Canvas, OnlyTheLatestRequestCounts) {
   renderer.load({pictureSource(drawing.drawing, writeSvg(drawing.drawing), {}), {}});
   constexpr int kRequests = 30;
   for (int i = 1; i <= kRequests; ++i) {
-    renderer.draw(PictureRenderer::kSharp, {1, 100.0 * i, 100.0 * i, {0, 0, 20, 20}});
+    renderer.draw(PictureRenderer::kSharp, {1, 20.0 * i, 20.0 * i, {0, 0, 20, 20}});
   }
   ASSERT_TRUE(renderer.wait(PictureRenderer::kSharp, seconds(60)));
   const std::optional<DrawnPicture> drawn = renderer.take(PictureRenderer::kSharp);
   ASSERT_TRUE(drawn);
-  EXPECT_EQ(drawn->cut.width, 100.0 * kRequests);
+  EXPECT_EQ(drawn->cut.width, 20.0 * kRequests);
   EXPECT_EQ(drawn->image.size(), QSize(20, 20));
   EXPECT_FALSE(renderer.take(PictureRenderer::kSharp));
   QCoreApplication::processEvents();

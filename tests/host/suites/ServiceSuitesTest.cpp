@@ -1,9 +1,11 @@
-// Suites over strings, paths, preferences, tools, notifiers and alerts.
+// Suites over strings, preferences, files and alerts.
+#include <filesystem>
 
+#include "AIDataFilter.h"
 #include "AIPreference.h"
-#include "AITool.h"
 #include "AIUser.h"
 #include "HostFixture.h"
+#include "ScratchFolder.h"
 
 namespace {
 
@@ -39,24 +41,6 @@ TEST_F(ServiceSuitesTest, PreferenceStringsAreCutBeforeACharacter) {
   }
 }
 
-TEST_F(ServiceSuitesTest, RestoringAToolLeavesItsGroupAsItIs) {
-  const auto& suite = ACQUIRE(AIToolSuite);
-  host::ToolTable& tools = host.tools();
-  const AIToolHandle select = tools.add({}).handle, round = tools.add({}).handle;
-  host::ToolRecord member;
-  member.group = tools.all().find(round)->group;
-  const AIToolHandle cross = tools.add(member).handle;
-  std::vector<AIToolHandle> changes;
-  tools.onChange = [&](const host::ToolRecord*, const host::ToolRecord* now) {
-    changes.push_back(now->handle);
-  };
-  EXPECT_EQ(suite.SetSelectedTool(cross), kNoErr);
-  for (const AIToolHandle tool : {select, round, round}) EXPECT_EQ(suite.RestoreSelectedTool(tool), kNoErr);
-  EXPECT_EQ(tools.visibleMember(member.group)->handle, cross);
-  EXPECT_EQ(changes, (std::vector<AIToolHandle>{cross, select, round})) << "once for each change";
-  EXPECT_EQ(tools.selected()->handle, round);
-}
-
 TEST_F(ServiceSuitesTest, AlertsReachTheUser) {
   const auto& user = ACQUIRE(AIUserSuite);
   EXPECT_EQ(user.MessageAlert(text("done")), kNoErr) << "nobody shows it";
@@ -68,6 +52,30 @@ TEST_F(ServiceSuitesTest, AlertsReachTheUser) {
   EXPECT_EQ(user.MessageAlert(text("lost")), kOutOfMemoryErr);
   EXPECT_EQ(host.alerts()[0].kind, host::AlertKind::Message);
   EXPECT_EQ(host.alerts()[1].kind, host::AlertKind::Error);
+}
+
+TEST_F(ServiceSuitesTest, UnlinkingClosesTheFileAndLeavesAStaleHandle) {
+  const ScratchFolder scratch;
+  const auto& filters = ACQUIRE(AIDataFilterSuite);
+  const auto openFiles = [] {
+    const std::filesystem::directory_iterator all("/proc/self/fd"), end;
+    return std::distance(all, end);
+  };
+  const auto before = openFiles();
+  AIDataFilterHandle stale = nullptr;
+  ASSERT_EQ(filters.NewFileDataFilter(scratch.write("data", "abc").c_str(), kAIReadFilterMode, &stale),
+            kNoErr);
+  ASSERT_EQ(filters.LinkDataFilter(stale), kNoErr);
+  EXPECT_EQ(openFiles(), before + 1);
+  ASSERT_EQ(filters.UnlinkDataFilter(stale), kNoErr);
+  EXPECT_EQ(openFiles(), before);
+  for (const AIDataFilterHandle handle : {stale, reinterpret_cast<AIDataFilterHandle>(text("abc"))}) {
+    char byte = '?';
+    std::size_t count = 1;
+    EXPECT_TRUE(each(kBadParameterErr, filters.LinkDataFilter(handle),
+                     filters.ReadDataFilter(handle, &byte, &count), filters.UnlinkDataFilter(handle)));
+    EXPECT_EQ(count, 0U);
+  }
 }
 
 }  // namespace

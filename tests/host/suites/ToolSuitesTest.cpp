@@ -55,6 +55,23 @@ TEST_F(ToolSuitesTest, ToolsAreNumberedInTheirOrder) {
   }
 }
 
+TEST_F(ToolSuitesTest, RestoringAToolLeavesItsGroupAsItIs) {
+  host::ToolTable& table = host.tools();
+  const AIToolHandle select = add(""), round = add("");
+  host::ToolRecord member;
+  member.group = table.all().find(round)->group;
+  const AIToolHandle cross = table.add(member).handle;
+  std::vector<AIToolHandle> changes;
+  table.onChange = [&](const host::ToolRecord*, const host::ToolRecord* now) {
+    changes.push_back(now->handle);
+  };
+  EXPECT_EQ(tools.SetSelectedTool(cross), kNoErr);
+  for (const AIToolHandle tool : {select, round, round}) EXPECT_EQ(tools.RestoreSelectedTool(tool), kNoErr);
+  EXPECT_EQ(table.visibleMember(member.group)->handle, cross);
+  EXPECT_EQ(changes, (std::vector<AIToolHandle>{cross, select, round})) << "once for each change";
+  EXPECT_EQ(table.selected()->handle, round);
+}
+
 TEST_F(ToolSuitesTest, InvalidRectanglesCoverAtLeastAPixel) {
   Pixels invalid;
   host.onInvalidate = [&](const host::OpenDocument& open, const AIRect& rect) {

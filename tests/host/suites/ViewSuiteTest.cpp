@@ -3,6 +3,7 @@
 #include "AIArtboard.h"
 #include "AIDocument.h"
 #include "AIDocumentView.h"
+#include "Geometry.h"
 #include "HostFixture.h"
 
 namespace {
@@ -12,21 +13,13 @@ TEST(View, TurnsDocumentsIntoPixels) {
   view.setViewport(800, 600);
   view.setCenter({100, 50});
   view.setZoom(4);
-  const AIRealMatrix m = view.pixelsFromDocument();
   const AIRealPoint moved = view.toPixels({101, 52}), back = view.toDocument(moved);
+  const AIRealPoint mapped = host::apply(view.pixelsFromDocument(), {101, 52});
   const AIRealRect bounds = view.bounds();
-  const AIReal found[] = {moved.x,
-                          moved.y,
-                          m.a * 101 + m.c * 52 + m.tx,
-                          m.b * 101 + m.d * 52 + m.ty,
-                          back.x,
-                          back.y,
-                          bounds.left,
-                          bounds.top,
-                          bounds.right,
-                          bounds.bottom};
-  const AIReal expected[] = {408, 284, 408, 284, 101, 52, 50, 87.5, 150, 12.5};
-  EXPECT_THAT(found, testing::Pointwise(testing::DoubleEq(), expected));
+  EXPECT_THAT((std::vector{moved.x, moved.y, mapped.x, mapped.y, back.x, back.y, bounds.left, bounds.top,
+                           bounds.right, bounds.bottom}),
+              testing::Pointwise(testing::DoubleEq(),
+                                 std::vector<AIReal>{408, 284, 408, 284, 101, 52, 50, 87.5, 150, 12.5}));
 }
 
 TEST(View, ShowsEvenWhatHasNoSize) {
