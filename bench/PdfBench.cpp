@@ -43,15 +43,15 @@ std::string stickers(int segments) {
   for (int shape = 0; shape < segments / kCurvesOfShape / 2; ++shape) {
     const std::string data = shapeData(shape);
     print += "<path fill=\"#2a7fb8\" d=\"" + data + "\"/>\n";
-    cut += "<path d=\"" + data + "\"/>\n";
+    cut += "<path ch:stroke=\"custom('Cut' 0)\" ch:stroke-overprint=\"true\" d=\"" + data + "\"/>\n";
   }
   return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:ch=\"urn:x-corvane-host:drawing:1\" "
          "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" width=\"1000pt\" height=\"1000pt\" "
          "viewBox=\"0 0 1000 1000\"><metadata><ch:swatches><ch:color name=\"Cut\" definition=\"rgb(1 0 0)\" "
          "spot=\"true\"/></ch:swatches></metadata><g inkscape:groupmode=\"layer\" inkscape:label=\"Print\">" +
          print +
-         "</g><g inkscape:groupmode=\"layer\" inkscape:label=\"Cut\" fill=\"none\" stroke=\"#ff0000\" "
-         "ch:stroke=\"custom('Cut' 0)\" ch:stroke-overprint=\"true\">" +
+         "</g><g inkscape:groupmode=\"layer\" inkscape:label=\"Cut\" fill=\"none\" "
+         "stroke=\"#ff0000\">" +
          cut + "</g></svg>";
 }
 

@@ -32,6 +32,8 @@ AIPathStyle PdfChoice::taken(const AIPathStyle& style, LayerId layer) const {
   AIPathStyle left = style;
   if (!takes(style.fill.color, layer)) left.fillPaint = 0;
   if (!takes(style.stroke.color, layer)) left.strokePaint = 0;
+  if (isLine(style.fill.color)) left.fill.overprint = 1;
+  if (isLine(style.stroke.color)) left.stroke.overprint = 1;
   return left;
 }
 

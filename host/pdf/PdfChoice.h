@@ -19,7 +19,8 @@ class PdfChoice {
   bool takes(const AIColor& color, LayerId layer) const;
   // Is what has no line types in it taken?
   bool takesPrint(LayerId layer) const { return options_.part != PdfPart::Cut || isOfMarks(layer); }
-  // The style without the paints that are not taken.
+  // The style without the paints that are not taken, and with line types that overprint whatever it says:
+  // what a table follows leaves no trace in the print.
   AIPathStyle taken(const AIPathStyle& style, LayerId layer) const;
   bool isOfMarks(LayerId layer) const { return layer == markLayer_ && layer != 0; }
   // The processing step that a layer bears; empty: none. Marks must print, so theirs never bears one.

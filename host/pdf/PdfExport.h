@@ -1,10 +1,10 @@
 // A drawing as a PDF file for a cutting table and a printer.
 //
 // Layers are optional content groups, custom colours that are spots are Separation colour spaces of their
-// names, overprint is what the styles say, strokes stay strokes, and a page is an artboard at its true size.
-// What a path with plain paints cannot express (gradients, text, images, masks, filters, markers, opacity of
-// groups) is drawn by librsvg, in RGB, in its place in the stack; where inks are in it, they fade together in
-// a transparency group of their own.
+// names, overprint is what the styles say and on for line types, strokes stay strokes, and a page is an
+// artboard at its true size. What a path with plain paints cannot express (gradients, text, images, masks,
+// filters, markers, opacity of groups) is drawn by librsvg, in RGB, in its place in the stack; where inks are
+// in it, they fade together in a transparency group of their own.
 #pragma once
 
 #include <filesystem>

@@ -1,5 +1,6 @@
 #include "PdfInks.h"
 
+#include "PdfSpotNames.h"
 #include "PdfText.h"
 
 namespace host {
@@ -14,6 +15,11 @@ std::string numbers(std::initializer_list<double> values) {
 std::string array(const std::string& content) {
   return "[ " + content + "]";
 }
+
+// The white of D50, as colour books measure.
+constexpr char kLab[] = "[ /Lab << /WhitePoint [ 0.9642 1 0.8249 ] /Range [ -128 127 -128 127 ] >> ]";
+constexpr char kLabSpace[] = "/Lab";
+constexpr AILabColorStyle kPaper{100, 0, 0};
 
 // The space that a spot's ink is simulated in, with its full strength and with none.
 struct Alternate {
@@ -36,9 +42,7 @@ Alternate alternateOf(const AICustomColor& definition) {
     }
     case kCustomLabColor: {
       const AILabColorStyle& lab = definition.c.lab;
-      // The white of D50, as colour books measure.
-      return {"[ /Lab << /WhitePoint [ 0.9642 1 0.8249 ] /Range [ -128 127 -128 127 ] >> ]",
-              numbers({100, 0, 0}), numbers({lab.l, lab.a, lab.b})};
+      return {kLab, numbers({kPaper.l, kPaper.a, kPaper.b}), numbers({lab.l, lab.a, lab.b})};
     }
     default: {
       const AIFourColorStyle& ink = definition.c.f;
@@ -49,10 +53,9 @@ Alternate alternateOf(const AICustomColor& definition) {
 
 QPDFObjectHandle separation(const CustomColor& color) {
   const Alternate alternate = alternateOf(color.definition);
-  const bool isAll = (color.definition.flag & kCustomRegistrationColor) != 0;
   auto space = QPDFObjectHandle::newArray();
   space.appendItem(QPDFObjectHandle::newName("/Separation"));
-  space.appendItem(pdfName(isAll ? "All" : color.name));
+  space.appendItem(pdfName(plateOf(color)));
   space.appendItem(QPDFObjectHandle::parse(alternate.space));
   space.appendItem(QPDFObjectHandle::parse("<< /FunctionType 2 /Domain [ 0 1 ] /C0 " + array(alternate.none) +
                                            " /C1 " + array(alternate.full) + " /N 1 >>"));
@@ -92,6 +95,11 @@ AIColor mixed(const AICustomColor& definition, double tint) {
   return color;
 }
 
+AILabColorStyle mixed(const AILabColorStyle& full, double tint) {
+  return {full.l + (kPaper.l - full.l) * tint, full.a + (kPaper.a - full.a) * tint,
+          full.b + (kPaper.b - full.b) * tint};
+}
+
 }  // namespace
 
 std::string PdfInks::choose(const AIColor& color, bool forStroke) {
@@ -102,13 +110,20 @@ std::string PdfInks::chooseCustom(const AICustomColorStyle& paint, bool forStrok
   const CustomColorId id = idOfHandle(paint.color, HandleKind::CustomColor, document_.serial());
   const CustomColor* color = document_.customColor(id);
   if (color == nullptr) return process({}, forStroke);
-  const bool isSpot = (color->definition.flag & (kCustomSpotColor | kCustomRegistrationColor)) != 0;
-  if (!isSpot && color->definition.kind != kCustomLabColor) {
-    return process(mixed(color->definition, paint.tint), forStroke);
+  const AICustomColor& definition = color->definition;
+  if (plateOf(*color).empty()) {
+    return definition.kind == kCustomLabColor ? chooseLab(mixed(definition.c.lab, paint.tint), forStroke)
+                                              : process(mixed(definition, paint.tint), forStroke);
   }
   std::string text = spaceName(id) + (forStroke ? " CS " : " cs ");
   appendPdfNumber(text, 1 - paint.tint);
   return text + (forStroke ? "SCN\n" : "scn\n");
+}
+
+std::string PdfInks::chooseLab(const AILabColorStyle& lab, bool forStroke) {
+  hasLab_ = true;
+  return kLabSpace + std::string(forStroke ? " CS " : " cs ") + numbers({lab.l, lab.a, lab.b}) +
+         (forStroke ? "SC\n" : "sc\n");
 }
 
 std::string PdfInks::spaceName(CustomColorId id) {
@@ -120,6 +135,7 @@ std::string PdfInks::spaceName(CustomColorId id) {
 
 QPDFObjectHandle PdfInks::resources() const {
   auto dictionary = QPDFObjectHandle::newDictionary();
+  if (hasLab_) dictionary.replaceKey(kLabSpace, QPDFObjectHandle::parse(kLab));
   for (const auto& [id, space] : spaces_) dictionary.replaceKey(pdfResource("CS", id), space);
   return dictionary;
 }

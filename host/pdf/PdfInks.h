@@ -9,7 +9,7 @@
 
 namespace host {
 
-// One Separation colour space for each spot colour that was asked for, named after it.
+// One Separation colour space for each plate that was asked for.
 class PdfInks {
  public:
   // Both must outlive this.
@@ -23,11 +23,13 @@ class PdfInks {
 
  private:
   std::string chooseCustom(const AICustomColorStyle& paint, bool forStroke);
+  std::string chooseLab(const AILabColorStyle& lab, bool forStroke);
   std::string spaceName(CustomColorId id);
 
   QPDF& pdf_;
   const Document& document_;
   std::map<CustomColorId, QPDFObjectHandle> spaces_;
+  bool hasLab_ = false;
 };
 
 // A name of any bytes but 0; `name` is UTF-8.

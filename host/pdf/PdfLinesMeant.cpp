@@ -3,6 +3,7 @@
 #include "Paint.h"
 #include "PdfChoice.h"
 #include "PdfLines.h"
+#include "PdfSpotNames.h"
 #include "SvgDrawing.h"
 
 namespace host {
@@ -58,34 +59,35 @@ class MeantLines {
     return box;
   }
 
-  const CustomColor* spotOf(const AIColor& color) const {
-    if (color.kind != kCustomColor) return nullptr;
+  // Empty for one that has none.
+  std::string plateOf(const AIColor& color) const {
+    if (color.kind != kCustomColor) return {};
     const CustomColor* custom =
         document_.customColor(idOfHandle(color.c.c.color, HandleKind::CustomColor, document_.serial()));
-    return custom != nullptr && (custom->definition.flag & kCustomSpotColor) != 0 ? custom : nullptr;
+    return custom == nullptr ? std::string() : host::plateOf(*custom);
   }
 
   void add(ArtId id, const AIPathStyle& style) {
-    if (spotOf(style.fill.color) == nullptr && spotOf(style.stroke.color) == nullptr) return;
+    if (style.fill.color.kind != kCustomColor && style.stroke.color.kind != kCustomColor) return;
     add(id, style, outlineOf(*document_.art(id)));
   }
 
   void add(ArtId id, const AIPathStyle& whole, const AIRealRect& box) {
     const AIPathStyle style = choice_.taken(whole, layer_);
-    const CustomColor* const fill = paintsFill(style) ? spotOf(style.fill.color) : nullptr;
-    const CustomColor* const stroke = paintsStroke(style) ? spotOf(style.stroke.color) : nullptr;
-    if ((fill == nullptr && stroke == nullptr) || isEmpty(box) || !isOnPage(id)) return;
-    if (fill != nullptr) lines_.push_back(line(id, box, *fill, style.fill.overprint != 0));
-    if (stroke == nullptr) return;
-    lines_.push_back(line(id, box, *stroke, style.stroke.overprint != 0));
+    const std::string fill = paintsFill(style) ? plateOf(style.fill.color) : std::string();
+    const std::string stroke = paintsStroke(style) ? plateOf(style.stroke.color) : std::string();
+    if ((fill.empty() && stroke.empty()) || isEmpty(box) || !isOnPage(id)) return;
+    if (!fill.empty()) lines_.push_back(line(id, box, fill, style.fill.overprint != 0));
+    if (stroke.empty()) return;
+    lines_.push_back(line(id, box, stroke, style.stroke.overprint != 0));
     lines_.back().isFill = false;
     lines_.back().width = style.stroke.width * document_.scale();
   }
 
-  PdfLine line(ArtId id, const AIRealRect& box, const CustomColor& spot, bool overprints) const {
+  PdfLine line(ArtId id, const AIRealRect& box, const std::string& spot, bool overprints) const {
     const double scale = document_.scale();
     return {document_.layer(layer_)->title,
-            spot.name,
+            spot,
             true,
             overprints,
             0,

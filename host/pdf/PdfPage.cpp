@@ -1,6 +1,7 @@
 #include "PdfPage.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "Bounds.h"
 #include "Geometry.h"
@@ -9,6 +10,9 @@
 
 namespace host {
 namespace {
+
+// Of a dash pattern: a shorter one is a solid line to every printer.
+constexpr double kShortestPeriod = 0.01;  // units of the page
 
 const char* paintOperator(const AIPathStyle& style) {
   const bool fills = paintsFill(style), strokes = paintsStroke(style);
@@ -69,7 +73,7 @@ bool PdfPage::enter(ArtId id) {
   if (art.hidden || art.guide) return false;
   if (parts_.plan.wayOf(id) == PdfWay::Picture) {
     if (parts_.choice.takesPrint(layer_) && isOnPage(id))
-      addPicture(parts_.plan.elementOf(id), parts_.plan.opacityRound(id));
+      addPicture(parts_.plan.elementOf(id), wholeState(id, parts_.plan.opacityRound(id)));
     return false;
   }
   if (art.type == kGroupArt && art.lastChild == 0) return false;
@@ -81,13 +85,13 @@ bool PdfPage::enter(ArtId id) {
     return true;
   }
   addLeaf(id);
-  if (parts_.plan.fadesAsOne(id)) endGroup(parts_.plan.opacityOf(id));
+  if (parts_.plan.fadesAsOne(id)) endGroup(wholeState(id, parts_.plan.opacityOf(id)));
   pop(clips);
   return false;
 }
 
 void PdfPage::leave(ArtId id) {
-  if (parts_.plan.fadesAsOne(id)) endGroup(parts_.plan.opacityOf(id));
+  if (parts_.plan.fadesAsOne(id)) endGroup(wholeState(id, parts_.plan.opacityOf(id)));
   std::size_t clips = 0;
   for (const Clip* at = document_.art(id)->clip.get(); at != nullptr; at = at->further.get()) ++clips;
   pop(clips);
@@ -109,13 +113,13 @@ void PdfPage::addCompound(ArtId id) {
   addPath(id, paths);
 }
 
-void PdfPage::addPicture(NodeIndex element, double opacity, PdfRest rest) {
-  if (out_.lastPicture != kNone && out_.lastOpacity == opacity) {
+void PdfPage::addPicture(NodeIndex element, const PdfState& state, PdfRest rest) {
+  if (out_.lastPicture != kNone && out_.lastState == state && state.blendMode.empty()) {
     return parts_.pictures.add(out_.lastPicture, element, rest);
   }
   out_.lastPicture = parts_.pictures.request(artboard_, element, rest);
-  out_.lastOpacity = opacity;
-  choose({false, false, opacity, opacity});
+  out_.lastState = state;
+  choose(state);
   const std::string name = pdfResource("P", out_.lastPicture);
   out_.objects.insert(name);
   // The form is as large as the page in points.
@@ -131,12 +135,13 @@ void PdfPage::addPath(ArtId id, const std::vector<const PathGeometry*>& paths) {
   const PdfRest rest = parts_.plan.restOf(id);
   const NodeIndex element = parts_.plan.elementOf(id);
   const double opacity = parts_.plan.fadesAsOne(id) ? 1 : parts_.plan.opacityOf(id);
+  const PdfState state{false, false, opacity, opacity, {}};
   const bool hasRest = rest != PdfRest::None && parts_.choice.takesPrint(layer_);
-  if (hasRest && rest == PdfRest::Fill) addPicture(element, opacity, rest);
+  if (hasRest && rest == PdfRest::Fill) addPicture(element, state, rest);
   if (rest == PdfRest::Fill) style.fillPaint = 0;
   if (rest == PdfRest::Stroke) style.strokePaint = 0;
   addInked(id, paths, style);
-  if (hasRest && rest != PdfRest::Fill) addPicture(element, opacity, rest);
+  if (hasRest && rest != PdfRest::Fill) addPicture(element, state, rest);
 }
 
 void PdfPage::addInked(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& whole) {
@@ -145,7 +150,8 @@ void PdfPage::addInked(ArtId id, const std::vector<const PathGeometry*>& paths, 
   if (!fills && !strokes) return;
   out_.lastPicture = kNone;
   choose({strokes && style.stroke.overprint != 0, fills && style.fill.overprint != 0,
-          parts_.plan.strokeOpacityOf(id), parts_.plan.fillOpacityOf(id)});
+          parts_.plan.strokeOpacityOf(id), parts_.plan.fillOpacityOf(id),
+          parts_.plan.fadesAsOne(id) ? std::string_view() : parts_.plan.blendModeOf(id)});
   if (fills) out_.text += parts_.inks.choose(style.fill.color, false);
   if (strokes) {
     out_.text += parts_.inks.choose(style.stroke.color, true);
@@ -192,7 +198,11 @@ void PdfPage::beginGroup() {
   out_ = Stream();
 }
 
-void PdfPage::endGroup(double opacity) {
+PdfState PdfPage::wholeState(ArtId id, double opacity) const {
+  return {false, false, opacity, opacity, parts_.plan.blendModeOf(id)};
+}
+
+void PdfPage::endGroup(const PdfState& state) {
   Stream group = std::move(out_);
   out_ = std::move(round_.back());
   round_.pop_back();
@@ -203,7 +213,7 @@ void PdfPage::endGroup(double opacity) {
                         (page.top - page.bottom) * scale_);
   out_.objects.insert(name);
   out_.lastPicture = kNone;
-  choose({false, false, opacity, opacity});
+  choose(state);
   out_.text += name + " Do\n";
 }
 
@@ -211,10 +221,24 @@ void PdfPage::setStroke(const AIStrokeStyle& stroke) {
   appendPdfNumber(out_.text, stroke.width * scale_);
   out_.text += "w " + std::to_string(stroke.cap) + " J " + std::to_string(stroke.join) + " j ";
   appendPdfNumber(out_.text, std::max(stroke.miterLimit, 1.0));
-  out_.text += "M [ ";
-  for (int i = 0; i < stroke.dash.length; ++i) appendPdfNumber(out_.text, stroke.dash.array[i] * scale_);
+  out_.text += "M ";
+  setDash(stroke.dash);
+}
+
+// Readers stumble over a pattern whose numbers are all 0, and over one that begins before the line does.
+void PdfPage::setDash(const AIDashStyle& dash) {
+  double period = 0;
+  for (int i = 0; i < dash.length; ++i) period += dash.array[i] * scale_;
+  if (period < kShortestPeriod) {
+    out_.text += "[ ] 0 d\n";
+    return;
+  }
+  out_.text += "[ ";
+  for (int i = 0; i < dash.length; ++i) appendPdfNumber(out_.text, dash.array[i] * scale_);
   out_.text += "] ";
-  appendPdfNumber(out_.text, stroke.dash.length == 0 ? 0 : stroke.dash.offset * scale_);
+  if (dash.length % 2 != 0) period *= 2;
+  const double offset = std::fmod(dash.offset * scale_, period);
+  appendPdfNumber(out_.text, offset < 0 ? offset + period : offset);
   out_.text += "d\n";
 }
 

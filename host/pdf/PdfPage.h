@@ -48,7 +48,7 @@ class PdfPage {
     PdfState state;
     bool hasState = false;
     std::size_t lastPicture = kNone;  // at the end of the text, to be joined by the next
-    double lastOpacity = 1;           // of that picture
+    PdfState lastState;               // of that picture
   };
 
   void addLayer(LayerId id);
@@ -57,14 +57,17 @@ class PdfPage {
   void leave(ArtId id);
   void addLeaf(ArtId id);
   void addCompound(ArtId id);
-  void addPicture(NodeIndex element, double opacity, PdfRest rest = PdfRest::None);
+  void addPicture(NodeIndex element, const PdfState& state, PdfRest rest = PdfRest::None);
   void addPath(ArtId id, const std::vector<const PathGeometry*>& paths);
   void addInked(ArtId id, const std::vector<const PathGeometry*>& paths, const AIPathStyle& style);
   void addBody(ArtId id, const Body& body);
   std::size_t clip(const Clip* clip);  // how many states were pushed
   void pop(std::size_t states);
   void beginGroup();
-  void endGroup(double opacity);
+  void endGroup(const PdfState& state);
+  // For what is drawn as a whole.
+  PdfState wholeState(ArtId id, double opacity) const;
+  void setDash(const AIDashStyle& dash);
   void setStroke(const AIStrokeStyle& stroke);
   void choose(const PdfState& state);
   bool isOnPage(ArtId id) const;

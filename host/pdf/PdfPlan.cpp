@@ -57,22 +57,24 @@ void PdfPlan::survey(LayerId layer) {
   for (std::size_t i = order.size(); i-- > 0;) surveyArt(order[i], choice_.isOfMarks(layer));
   for (const ArtId id : order) {
     const Art& art = *document.art(id);
-    records_[id].opacity = effectOf(art).opacity * (art.parent == 0 ? 1 : opacityRound(id));
+    records_[id].opacity = effectOf(id).opacity * (art.parent == 0 ? 1 : opacityRound(id));
   }
 }
 
 void PdfPlan::surveyArt(ArtId id, bool isOfMarks) {
   const Art& art = *drawing_.document->art(id);
-  const SvgEffect& effect = effectOf(art);
   Record& record = records_[id];
   record.element = elementOf(art);
+  const SvgEffect& effect = effectOf(id);
   record.isRead |= isOfMarks;
-  if (art.type == kGroupArt) record.wantsPicture |= effect.actsOnWhole();
+  // librsvg would mix what it holds with nothing but what else it holds.
+  const bool isOpen = record.holdsBlend && !effect.actsOnWhole();
+  if (art.type == kGroupArt) record.wantsPicture = !isOpen && (record.wantsPicture || effect.actsOnWhole());
   if (art.style) surveyPath(art, effect, record);
   if (art.body) surveyBody(*art.body, record);
   if (record.hasInk && (effect.masked || effect.filtered))
     record.loss = effect.masked ? "its mask" : "its filter";
-  if (art.type == kGroupArt) record.overlaps |= art.firstChild != art.lastChild;
+  if (art.type == kGroupArt) record.overlaps |= art.firstChild != art.lastChild || !effect.blendMode.empty();
   decideFading(effect, record);
   if (art.parent == 0) return;
   Record& round = records_[art.parent];
@@ -80,12 +82,16 @@ void PdfPlan::surveyArt(ArtId id, bool isOfMarks) {
   round.isRead |= record.isRead;
   round.wantsPicture |= record.wantsPicture;
   round.overlaps |= record.overlaps;
+  round.holdsBlend |= isOpen || !effect.blendMode.empty();
 }
 
-void PdfPlan::decideFading(const SvgEffect& effect, Record& record) const {
-  if (effect.opacity >= 1 || !record.hasInk || !record.overlaps) return;
-  record.fadesAsOne = !record.isRead;
-  if (record.isRead && record.loss == nullptr) record.loss = "that it fades as one: its parts fade each";
+void PdfPlan::decideFading(const SvgEffect& effect, Record& record) {
+  const bool fades = effect.opacity < 1 && record.hasInk && record.overlaps;
+  const bool blends = !effect.blendMode.empty();
+  record.fadesAsOne = !record.isRead && (fades || (blends && record.overlaps));
+  if (!record.isRead || record.loss != nullptr) return;
+  if (fades) record.loss = "that it fades as one: its parts fade each";
+  if (blends) record.loss = "its blend mode";
 }
 
 // A layer's root group stands for the layer's element.
@@ -94,21 +100,29 @@ NodeIndex PdfPlan::elementOf(const Art& art) const {
   return layer != nullptr ? layer->source : art.source;
 }
 
-const SvgEffect& PdfPlan::effectOf(const Art& art) const {
-  return effects_.of(elementOf(art));
-}
-
 void PdfPlan::surveyPath(const Art& art, const SvgEffect& effect, Record& record) const {
   const AIPathStyle& style = *art.style;
   const bool hasBoth = paintsFill(style) && paintsStroke(style);
   record.hasInk = hasInk(style);
   record.isRead |= (paintsFill(style) && choice_.isLine(style.fill.color)) ||
                    (paintsStroke(style) && choice_.isLine(style.stroke.color));
-  record.wantsPicture = effect.masked || effect.filtered || effect.marked || hasServer(style) ||
-                        (effect.opacity < 1 && hasBoth);
+  const bool reordered = effect.reordered && (hasBoth || effect.marked);
+  const bool strokedOddly = paintsStroke(style) && (effect.stretched || effect.dashesCut);
+  record.wantsPicture = effect.masked || effect.filtered || effect.marked || hasServer(style) || reordered ||
+                        strokedOddly || (effect.opacity < 1 && hasBoth);
   if (record.hasInk && record.element != 0) record.rest = restBesideInks(style, effect.marked);
   record.overlaps = hasBoth || record.rest != PdfRest::None;
-  if (effect.marked && record.rest == PdfRest::Fill) record.loss = "its markers";
+  if (record.hasInk) record.loss = lossOf(style, effect, record.rest);
+}
+
+// The width of a line type means nothing to a table.
+const char* PdfPlan::lossOf(const AIPathStyle& style, const SvgEffect& effect, PdfRest rest) const {
+  if (effect.marked && rest == PdfRest::Fill) return "its markers";
+  if (effect.reordered && (effect.marked || (paintsFill(style) && paintsStroke(style))))
+    return "the order that it is painted in";
+  if (!paintsStroke(style) || rest == PdfRest::Stroke) return nullptr;
+  if (effect.dashesCut) return "the end of its dash pattern";
+  return effect.stretched && !choice_.isLine(style.stroke.color) ? "the stretching of its stroke" : nullptr;
 }
 
 void PdfPlan::surveyBody(const Body& body, Record& record) const {
@@ -126,7 +140,7 @@ void PdfPlan::surveyBody(const Body& body, Record& record) const {
 }
 
 bool PdfPlan::isFaded(ArtId art) const {
-  return effectOf(*drawing_.document->art(art)).opacity < 1;
+  return effectOf(art).opacity < 1;
 }
 
 double PdfPlan::opacityRound(ArtId art) const {
@@ -135,11 +149,11 @@ double PdfPlan::opacityRound(ArtId art) const {
 }
 
 double PdfPlan::fillOpacityOf(ArtId art) const {
-  return (fadesAsOne(art) ? 1 : opacityOf(art)) * effectOf(*drawing_.document->art(art)).fillOpacity;
+  return (fadesAsOne(art) ? 1 : opacityOf(art)) * effectOf(art).fillOpacity;
 }
 
 double PdfPlan::strokeOpacityOf(ArtId art) const {
-  return (fadesAsOne(art) ? 1 : opacityOf(art)) * effectOf(*drawing_.document->art(art)).strokeOpacity;
+  return (fadesAsOne(art) ? 1 : opacityOf(art)) * effectOf(art).strokeOpacity;
 }
 
 }  // namespace host

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 #include "SvgDrawing.h"
@@ -47,6 +48,10 @@ class PdfPlan {
   // Is native art drawn as a whole and then faded, so that what overlaps in it does not show through? Never
   // what a table reads: lines and marks stay on the page itself.
   bool fadesAsOne(ArtId art) const { return records_[art].fadesAsOne; }
+  // How it is mixed with what lies below, such as "multiply"; empty: normally. What a table reads covers.
+  std::string_view blendModeOf(ArtId art) const {
+    return records_[art].isRead ? std::string_view() : effectOf(art).blendMode;
+  }
   // That of the art and of the groups round it, as far as they do not fade as one.
   double opacityOf(ArtId art) const { return records_[art].opacity; }
   double opacityRound(ArtId art) const;  // of the groups alone
@@ -59,6 +64,7 @@ class PdfPlan {
     bool isRead = false;        // a line type or a mark, in it or below
     bool wantsPicture = false;  // in it or below
     bool overlaps = false;      // painted in more than one step
+    bool holdsBlend = false;    // something below is mixed with what lies below this, too
     bool fadesAsOne = false;
     PdfRest rest = PdfRest::None;
     NodeIndex element = 0;
@@ -68,10 +74,11 @@ class PdfPlan {
   void survey(LayerId layer);
   void surveyArt(ArtId id, bool isOfMarks);
   void surveyPath(const Art& art, const SvgEffect& effect, Record& record) const;
+  const char* lossOf(const AIPathStyle& style, const SvgEffect& effect, PdfRest rest) const;
   void surveyBody(const Body& body, Record& record) const;
-  void decideFading(const SvgEffect& effect, Record& record) const;
+  static void decideFading(const SvgEffect& effect, Record& record);
   NodeIndex elementOf(const Art& art) const;
-  const SvgEffect& effectOf(const Art& art) const;
+  const SvgEffect& effectOf(ArtId art) const { return effects_.of(records_[art].element); }
 
   const SvgDrawing& drawing_;
   const SvgEffects& effects_;

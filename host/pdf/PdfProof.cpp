@@ -12,15 +12,21 @@
 namespace host {
 namespace {
 
-constexpr double kTolerance = 0.002;  // points
+constexpr double kTolerance = 0.002;  // units of the page
 
-bool isNear(double a, double b) {
-  return std::abs(a - b) <= kTolerance;
+bool isNear(double a, double b, double tolerance) {
+  return std::abs(a - b) <= tolerance;
 }
 
-bool isNear(const AIRealRect& a, const AIRealRect& b) {
-  return isNear(a.left, b.left) && isNear(a.right, b.right) && isNear(a.top, b.top) &&
-         isNear(a.bottom, b.bottom);
+bool isNear(const AIRealRect& a, const AIRealRect& b, double tolerance) {
+  return isNear(a.left, b.left, tolerance) && isNear(a.right, b.right, tolerance) &&
+         isNear(a.top, b.top, tolerance) && isNear(a.bottom, b.bottom, tolerance);
+}
+
+// Points in a unit of the page.
+double unitOf(QPDFPageObjectHelper& page) {
+  QPDFObjectHandle unit = page.getObjectHandle().getKey("/UserUnit");
+  return unit.isNumber() ? unit.getNumericValue() : 1;
 }
 
 // What the layers are in words, in their order.
@@ -69,22 +75,22 @@ std::vector<std::string> layersFound(QPDF& pdf) {
   return layers;
 }
 
-std::string differenceOf(const PdfLine& meant, const PdfLine& found) {
+std::string differenceOf(const PdfLine& meant, const PdfLine& found, double tolerance) {
   if (meant.layer != found.layer)
     return "lies on layer \"" + found.layer + "\", not on \"" + meant.layer + "\"";
   if (meant.isFill != found.isFill) return meant.isFill ? "is not filled" : "has no stroke";
   if (meant.spot != found.spot) return "has the colour \"" + found.spot + "\", not \"" + meant.spot + "\"";
   if (meant.overprints != found.overprints) return meant.overprints ? "does not overprint" : "overprints";
-  if (!isNear(meant.width, found.width)) return "has another width";
-  if (!isNear(meant.box, found.box)) return "lies elsewhere or has another size";
+  if (!isNear(meant.width, found.width, tolerance)) return "has another width";
+  if (!isNear(meant.box, found.box, tolerance)) return "lies elsewhere or has another size";
   return {};
 }
 
 std::string differenceOf(const SvgDrawing& drawing, const std::vector<PdfLine>& meant,
-                         const std::vector<PdfLine>& found) {
+                         const std::vector<PdfLine>& found, double tolerance) {
   for (std::size_t i = 0; i < meant.size(); ++i) {
     if (i >= found.size()) return nameOfObject(drawing, meant[i].art) + " is missing";
-    const std::string difference = differenceOf(meant[i], found[i]);
+    const std::string difference = differenceOf(meant[i], found[i], tolerance);
     if (!difference.empty()) return nameOfObject(drawing, meant[i].art) + " " + difference;
   }
   if (found.size() > meant.size()) {
@@ -94,13 +100,13 @@ std::string differenceOf(const SvgDrawing& drawing, const std::vector<PdfLine>& 
 }
 
 std::string differenceOfSize(QPDFPageObjectHelper& page, const Document& document, const Artboard& artboard) {
-  QPDFObjectHandle unit = page.getObjectHandle().getKey("/UserUnit");
-  const double points = unit.isNumber() ? unit.getNumericValue() : 1;
+  const double unit = unitOf(page);
   const QPDFObjectHandle::Rectangle box = page.getMediaBox().getArrayAsRectangle();
   const AIRealRect& meant = artboard.position;
-  const bool same = isNear((box.urx - box.llx) * points, (meant.right - meant.left) * document.scale()) &&
-                    isNear((box.ury - box.lly) * points, (meant.top - meant.bottom) * document.scale());
-  return same ? std::string() : "the page of artboard \"" + artboard.name + "\" has another size";
+  const double scale = document.scale() / unit;
+  const bool isSame = isNear(box.urx - box.llx, (meant.right - meant.left) * scale, kTolerance) &&
+                      isNear(box.ury - box.lly, (meant.top - meant.bottom) * scale, kTolerance);
+  return isSame ? std::string() : "the page of artboard \"" + artboard.name + "\" has another size";
 }
 
 std::string kindOf(AIArtType type) {
@@ -132,7 +138,8 @@ std::string proofOf(const std::string& bytes, const SvgDrawing& drawing, const P
   for (std::size_t i = 0; i < pages.size(); ++i) {
     std::string difference = differenceOfSize(pages[i], document, artboards[i]);
     if (difference.empty())
-      difference = differenceOf(drawing, linesMeant(drawing, choice, i), linesFound(pages[i]));
+      difference = differenceOf(drawing, linesMeant(drawing, choice, i), linesFound(pages[i]),
+                                kTolerance * unitOf(pages[i]));
     if (!difference.empty()) return difference;
   }
   return {};

@@ -15,6 +15,11 @@ const char* meaningOf(std::string_view name) {
 
 }  // namespace
 
+std::string plateOf(const CustomColor& color) {
+  if ((color.definition.flag & kCustomRegistrationColor) != 0) return "All";
+  return (color.definition.flag & kCustomSpotColor) != 0 ? color.name : std::string();
+}
+
 std::string troubleWithSpotNames(const SvgDrawing& drawing) {
   const SvgSource& source = *drawing.source;
   std::map<std::string_view, std::string_view> definitions;

@@ -1,4 +1,4 @@
-// Whether the spot colours of a drawing can go by their names in a PDF file.
+// The names of inks in a PDF file.
 #pragma once
 
 #include <string>
@@ -7,8 +7,12 @@
 
 namespace host {
 
-// Empty, or a clause on why not: a name that means something else there, or one that the file defines twice
-// and differently.
+// What the plate of a custom colour is called: its name, or "All" for the one that register marks are painted
+// with; empty for a colour that is printed with the process inks.
+std::string plateOf(const CustomColor& color);
+
+// Whether the spot colours of a drawing can go by their names: empty, or a clause on why not, a name that
+// means something else there, or one that the file defines twice and differently.
 std::string troubleWithSpotNames(const SvgDrawing& drawing);
 
 }  // namespace host

@@ -1,9 +1,10 @@
-// Graphics states: overprint and opacity.
+// Graphics states: overprint, opacity and blend mode.
 #pragma once
 
 #include <map>
 #include <qpdf/QPDFObjectHandle.hh>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 namespace host {
@@ -13,13 +14,14 @@ struct PdfState {
   bool overprintsFill = false;
   double strokeOpacity = 1;
   double fillOpacity = 1;
+  std::string_view blendMode;  // as in CSS, of static lifetime; empty: normal
 
   bool operator<(const PdfState& other) const { return key() < other.key(); }
   bool operator==(const PdfState& other) const { return key() == other.key(); }
 
  private:
-  std::tuple<bool, bool, double, double> key() const {
-    return {overprintsStroke, overprintsFill, strokeOpacity, fillOpacity};
+  std::tuple<bool, bool, double, double, std::string_view> key() const {
+    return {overprintsStroke, overprintsFill, strokeOpacity, fillOpacity, blendMode};
   }
 };
 

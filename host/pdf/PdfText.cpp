@@ -1,5 +1,6 @@
 #include "PdfText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -25,6 +26,23 @@ void appendSegment(std::string& text, const AIPathSegment& from, const AIPathSeg
   text += "c\n";
 }
 
+bool isDot(const PathGeometry& path) {
+  const auto& segments = path.segments;
+  const AIRealPoint at = segments.front().p;
+  return (path.closed || segments.size() > 1) &&
+         std::all_of(segments.begin(), segments.end(), [at](const AIPathSegment& segment) {
+           return isSame(segment.p, at) && isSame(segment.in, at) && isSame(segment.out, at);
+         });
+}
+
+// Not all readers draw one that is closed.
+void appendDot(std::string& text, AIRealPoint at) {
+  for (const char* const step : {"m\n", "l\n"}) {
+    appendPdfPoint(text, at);
+    text += step;
+  }
+}
+
 }  // namespace
 
 void appendPdfNumber(std::string& text, double value) {
@@ -46,6 +64,7 @@ void appendPdfPoint(std::string& text, AIRealPoint point) {
 void appendPdfPath(std::string& text, const PathGeometry& path, const AIRealMatrix& pageFromDocument) {
   const auto& segments = path.segments;
   if (segments.empty()) return;
+  if (isDot(path)) return appendDot(text, apply(pageFromDocument, segments.front().p));
   appendPdfPoint(text, apply(pageFromDocument, segments.front().p));
   text += "m\n";
   for (std::size_t i = 1; i < segments.size(); ++i) {

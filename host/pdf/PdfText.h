@@ -14,7 +14,7 @@ void appendPdfNumber(std::string& text, double value);
 void appendPdfPoint(std::string& text, AIRealPoint point);
 
 // The path's curves, to be painted or to clip; `pageFromDocument` gives the coordinates. A segment whose
-// handles lie on its anchors is a line.
+// handles lie on its anchors is a line, and an outline without any length a dot, which shows with round caps.
 void appendPdfPath(std::string& text, const PathGeometry& path, const AIRealMatrix& pageFromDocument);
 
 }  // namespace host

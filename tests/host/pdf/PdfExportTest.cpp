@@ -1,6 +1,7 @@
 // PDF files as tools of others see them.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <regex>
@@ -12,7 +13,6 @@
 #include "ScratchFolder.h"
 #include "SvgFallbackColour.h"
 #include "SvgHostText.h"
-#include "SvgPicture.h"
 
 namespace host {
 namespace {
@@ -44,13 +44,14 @@ std::string spot(const std::string& name, const std::string& definition = "rgb(1
 }
 
 // The colour that other programs are shown.
-std::string fallbackOf(const std::string& definition) {
+std::string fallbackOf(const std::string& definition, double tint = 0) {
   Document document;
   AIColor color{};
   color.kind = kCustomColor;
   color.c.c.color =
       makeHandle<AICustomColorHandle>(HandleKind::CustomColor, document.serial(),
                                       document.addCustomColor("any", *definitionFrom(definition)));
+  color.c.c.tint = tint;
   char text[8];
   std::snprintf(text, sizeof text, "#%06x", fallbackRgb(color, document));
   return text;
@@ -87,25 +88,27 @@ class PdfExportTest : public testing::Test {
   ScratchFolder scratch_;
 };
 
-// What mutool finds of each stroke in a Separation: layer, space, tint, width, overprint.
-std::vector<std::string> strokes(const std::string& trace) {
+// What mutool finds of each path: layer, colour, width of a stroke, overprint.
+std::vector<std::string> pathsOf(const std::string& trace) {
   const std::regex pattern(
-      "<layer name=\"([^\"]*)\"|<stroke_path linewidth=\"([^\"]*)\".*colorspace=\"(Separation[^\"]*)\" "
+      "<layer name=\"([^\"]*)\"|<(fill|stroke)_path (?:linewidth=\"([^\"]*)\")?.*colorspace=\"([^\"]*)\" "
       "color=\"([^\"]*)\".* op=\"([01])\"");
   std::vector<std::string> found;
   std::string current;
   for (std::sregex_iterator at(trace.begin(), trace.end(), pattern), end; at != end; ++at) {
-    if ((*at)[1].matched) {
-      current = (*at)[1];
+    const std::smatch& match = *at;
+    if (match[1].matched) {
+      current = match[1];
     } else {
-      found.push_back(current + ": " + (*at)[3].str() + " " + (*at)[4].str() + ", " + (*at)[2].str() +
-                      " pt, op " + (*at)[5].str());
+      found.push_back(current + ": " + match[4].str() + " " + match[5].str() + ", " +
+                      (match[3].matched ? match[3].str() + " pt" : match[2].str()) + ", op " +
+                      match[6].str());
     }
   }
   return found;
 }
 
-TEST_F(PdfExportTest, LinesKeepNameWidthAndOverprint) {
+TEST_F(PdfExportTest, LinesKeepAnyName) {
   struct Case {
     const char* name;
     const char* definition;
@@ -113,19 +116,51 @@ TEST_F(PdfExportTest, LinesKeepNameWidthAndOverprint) {
   };
   const Case cases[] = {{"CutContour", "cmyk(0 1 0 0)", "DeviceCMYK"},
                         {"Schnitt durch (2)", "rgb(1 0 0)", "DeviceRGB"},
-                        {"a/b #2 %20 [x] {y}", "rgb(1 0 0)", "DeviceRGB"},
+                        {"a/b #2 %20 [x] {y} ) \\", "rgb(0 0 0)", "DeviceCMYK"},
                         {"\u5207\u308b \U0001F600", "lab(50 60 -20)", "Lab"}};
+  std::string swatches, layers;
+  std::vector<std::string> lines;
   for (const Case& row : cases) {
-    const std::string svg = drawing(
-        spot(row.name, row.definition),
-        layer("Print", kPrint) + layer(row.name, line(row.name, "stroke-width=\"2.5\"", row.definition)));
-    const std::string file = write("lines.pdf", exported(svg).bytes);
-    EXPECT_THAT(said("qpdf --check " + file), testing::Not(HasSubstr("WARNING"))) << row.name;
-    const std::string space = std::string("Separation(") + row.space + "," + row.name + ")";
-    const std::vector<std::string> found = strokes(said("mutool trace " + file));
-    ASSERT_FALSE(found.empty()) << row.name;
-    EXPECT_EQ(found[0], std::string(row.name) + ": " + space + " 1, 2.5 pt, op 1");
+    const std::string name = row.name;
+    std::string written = name;
+    if (const std::size_t at = name.find('\\'); at != std::string::npos) written.insert(at, 1, '\\');
+    swatches += spot(name, row.definition);
+    layers += layer(name, line(written, "stroke-width=\"2.5\"", row.definition));
+    lines.push_back(name + ": Separation(" + row.space + "," + name + ") 1, 2.5 pt, op 1");
   }
+  const std::string file = write("lines.pdf", exported(drawing(swatches, layers)).bytes);
+  EXPECT_THAT(said("qpdf --check " + file), testing::Not(HasSubstr("WARNING")));
+  EXPECT_EQ(pathsOf(said("mutool trace " + file)), lines);
+}
+
+TEST_F(PdfExportTest, PathsKeepColourWidthAndOverprint) {
+  const auto box = [](const std::string& paint) { return "<path d=\"M9 9h9v9z\" " + paint + "/>"; };
+  const auto filled = [&](const std::string& fallback, const std::string& paint) {
+    return box("fill=\"" + fallback + "\" ch:fill=\"" + paint + "\"");
+  };
+  const std::string gold = "cmyk(0 0.2 0.8 0)", sea = "lab(50 60 -20)";
+  const std::string swatches = spot("Cut") + spot("Gold", gold) + "<ch:color name=\"Sea\" definition=\"" +
+                               sea + "\"/>" +
+                               "<ch:color name=\"[All]\" definition=\"rgb(0 0 0)\" registration=\"true\"/>";
+  const std::string print =
+      box("fill=\"#f00\" stroke=\"#00f\" stroke-width=\"3\"") + filled("#00ffff", "cmyk(1 0 0 0)") +
+      filled("#808080", "gray(0.5)") + filled(fallbackOf(gold, 0.5), "custom('Gold' 0.5)") +
+      filled(fallbackOf(sea), "custom('Sea' 0)") + filled("#000000", "custom('[All]' 0)");
+  const std::string cut = filled(fallbackOf("rgb(1 0 0)"), "custom('Cut' 0)") +
+                          box("fill=\"none\" stroke=\"#ff0000\" ch:stroke=\"custom('Cut' 0)\" "
+                              "stroke-width=\"2\" transform=\"scale(2)\"");
+  const std::string file =
+      write("paths.pdf", exported(drawing(swatches, layer("Print", print) + layer("Cut", cut) +
+                                                        layer("Top", box("fill=\"#f00\""))))
+                             .bytes);
+  EXPECT_THAT(
+      pathsOf(said("mutool trace " + file)),
+      testing::ElementsAre(
+          "Print: DeviceRGB 1 0 0, fill, op 0", "Print: DeviceRGB 0 0 1, 3 pt, op 0",
+          "Print: DeviceCMYK 1 0 0 0, fill, op 0", "Print: DeviceGray .5, fill, op 0",
+          "Print: Separation(DeviceCMYK,Gold) .5, fill, op 0", "Print: Lab 50 60 -20, fill, op 0",
+          "Print: Separation(DeviceCMYK,All) 1, fill, op 0", "Cut: Separation(DeviceRGB,Cut) 1, fill, op 1",
+          "Cut: Separation(DeviceRGB,Cut) 1, 4 pt, op 1", "Top: DeviceRGB 1 0 0, fill, op 0"));
 }
 
 TEST_F(PdfExportTest, LayersKeepOrderStateAndSteps) {
@@ -149,18 +184,28 @@ std::string withoutDate(const std::string& tiff) {
   return std::regex_replace(tiff, std::regex("20\\d\\d:\\d\\d:\\d\\d \\d\\d:\\d\\d:\\d\\d"), "");
 }
 
+// Whatever the lines are made of, and although one of them does not ask for overprint.
 TEST_F(PdfExportTest, CuttingLinesLeaveTheProcessPlatesAlone) {
-  const std::string with = drawing(spot("Cut"), layer("Print", kPrint) + layer("Cut", line("Cut")));
-  const std::string without = drawing(spot("Cut"), layer("Print", kPrint));
-  const auto plates = [&](const std::string& name, const std::string& svg) {
-    const std::string file = write(name + ".pdf", exported(svg).bytes);
+  const std::string fill = "fill=\"#ff0000\" ch:fill=\"custom('Cut' 0)\"";
+  const std::string svg = drawing(
+      spot("Cut"),
+      layer("Print", std::string(kPrint) + "<path d=\"M20 200h200v60h-200z\" fill=\"#00ffff\" "
+                                           "ch:fill=\"cmyk(1 0 0 0)\"/>") +
+          layer("Cut", line("Cut", "stroke-width=\"5\"") + "<path d=\"M120 30h60v200z\" " + fill +
+                           "/><g opacity=\"0.5\"><path d=\"M9 90h200v99z\" " + fill + "/>" + line("Cut") +
+                           "</g><text y=\"240\" font-size=\"90\" " + fill + ">Cut</text>"));
+  const auto plates = [&](const std::string& name, PdfPart part) {
+    PdfOptions options;
+    options.part = part;
+    const std::string file = write(name + ".pdf", exported(svg, options).bytes);
     return said("cd " + scratch_.path.string() +
                 " && gs -q -dBATCH -dNOPAUSE -sDEVICE=tiffsep -sCompression=none -r50 -o " + name +
                 "%d.tif " + file);
   };
-  ASSERT_EQ(plates("with", with), "");
-  ASSERT_EQ(plates("without", without), "");
+  ASSERT_EQ(plates("with", PdfPart::Whole), "");
+  ASSERT_EQ(plates("without", PdfPart::Print), "");
   EXPECT_TRUE(scratch_.has("with1(Cut).tif"));
+  EXPECT_FALSE(scratch_.has("without1(Cut).tif"));
   for (const char* plate : {"Cyan", "Magenta", "Yellow", "Black"}) {
     const std::string end = std::string("1(") + plate + ").tif";
     const std::string bytes = scratch_.read("with" + end);
@@ -170,12 +215,21 @@ TEST_F(PdfExportTest, CuttingLinesLeaveTheProcessPlatesAlone) {
 }
 
 TEST_F(PdfExportTest, PagesHaveTheirTrueSize) {
-  const std::string small = write("small.pdf", exported(drawing({}, kPrint, "100mm")).bytes);
-  EXPECT_THAT(said("pdfinfo " + small), testing::ContainsRegex("Page size: *283\\.4[67]"));
-  const std::string large =
-      write("large.pdf", exported(drawing(spot("Cut"), layer("Cut", line("Cut")), "36000pt")).bytes);
-  EXPECT_THAT(said("mutool show " + large + " pages/1/UserUnit"), HasSubstr("3"));
-  EXPECT_THAT(said("mutool show " + large + " pages/1/MediaBox"), HasSubstr("12000"));
+  struct Case {
+    const char* size;
+    const char* unit;
+    const char* side;
+  };
+  const Case cases[] = {{"100mm", "null", "283.4"},
+                        {"14400pt", "null", "14400"},
+                        {"36000pt", "3", "12000"},
+                        {"990000pt", "69", "14347.8"}};
+  for (const Case& row : cases) {
+    const std::string cut = layer("Cut", line("Cut", "stroke-width=\"0.123\""));
+    const std::string file = write("size.pdf", exported(drawing(spot("Cut"), cut, row.size)).bytes);
+    EXPECT_EQ(said("mutool show " + file + " pages/1/UserUnit"), row.unit + std::string("\n"));
+    EXPECT_THAT(said("mutool show " + file + " pages/1/MediaBox"), HasSubstr(row.side));
+  }
 }
 
 TEST_F(PdfExportTest, ThingsThatAreOddComeThrough) {
@@ -256,6 +310,12 @@ TEST_F(PdfExportTest, TheProofSeesDamage) {
   }
 }
 
+std::size_t countOf(const std::vector<std::string>& texts, const std::string& part) {
+  return static_cast<std::size_t>(std::count_if(texts.begin(), texts.end(), [&](const std::string& text) {
+    return text.find(part) != std::string::npos;
+  }));
+}
+
 TEST_F(PdfExportTest, PrintAndCutAreApartAndMarksInBoth) {
   const std::string both =
       "<rect width=\"9\" height=\"9\" fill=\"#00f\" stroke=\"#ff0000\" "
@@ -278,7 +338,7 @@ TEST_F(PdfExportTest, PrintAndCutAreApartAndMarksInBoth) {
         found += (found.empty() ? "" : " ") + std::string(title);
       EXPECT_THAT(groups, testing::Not(HasSubstr("GTS_Metadata"))) << "marks must print";
     }
-    found += ", " + std::to_string(strokes(said("mutool trace " + file)).size()) + " cuts";
+    found += ", " + std::to_string(countOf(pathsOf(said("mutool trace " + file)), "Separation")) + " cuts";
     EXPECT_EQ(found, outcome);
   }
 }
@@ -296,64 +356,26 @@ TEST_F(PdfExportTest, SpotNamesThatCannotBeAreRefused) {
   }
 }
 
-// The share of pixels in which a page looks otherwise than on the canvas.
-double shareOfOtherPixels(const std::string& svg, const std::string& ppm) {
-  const auto read = readSvg(svg, nullptr);
-  const auto picture = SvgPicture::load(pictureSource(std::get<SvgDrawing>(read), svg, {}));
-  int width = 0, height = 0, begin = 0;
-  if (std::sscanf(ppm.c_str(), "P6 %d %d 255%n", &width, &height, &begin) != 2) return 1;
-  std::vector<std::uint8_t> canvas(static_cast<std::size_t>(width * height * 4));
-  const std::string reason =
-      std::get<SvgPicture>(picture).draw({canvas.data(), width, height, width * 4},
-                                         {0, 0, static_cast<double>(width), static_cast<double>(height)});
-  EXPECT_EQ(reason, "");
-  int others = 0;
-  for (int i = 0; i < width * height; ++i) {
-    bool differs = false;
-    for (int channel = 0; channel < 3; ++channel) {
-      const int a = static_cast<unsigned char>(ppm[static_cast<std::size_t>(begin + 1 + i * 3 + channel)]);
-      const int b = canvas[static_cast<std::size_t>(i * 4 + 2 - channel)];
-      differs |= std::abs(a - b) > 40;
-    }
-    others += differs ? 1 : 0;
+TEST_F(PdfExportTest, WhatIsLostIsSaid) {
+  const std::string ink = "stroke=\"#ff0000\" ch:stroke=\"custom('Ink' 0)\"";
+  const std::string box = "<path d=\"M9 9h90v90z\" id=\"box\" " + ink;
+  const std::pair<std::string, std::string> cases[] = {
+      {box + "/>", ""},
+      {"<text y=\"50\" id=\"word\" " + ink + ">Cut</text>",
+       "\"word\" is painted with inks and loses that it was text"},
+      {box + " style=\"paint-order:stroke\"/>", "\"box\" is painted with inks and loses the order"},
+      {box + " stroke-dasharray=\"1 2 3 4 5 6 7 8\"/>", "the end of its dash pattern"},
+      {box + " transform=\"scale(2 1)\"/>", "the stretching of its stroke"},
+      {line("Cut", "transform=\"scale(2 1)\""), ""},
+      {line("Cut", "style=\"mix-blend-mode:multiply\""), "its blend mode"},
+      {"<g opacity=\"0.5\">" + line("Cut") + line("Cut") + "</g>", "that it fades as one"},
+      {"<text id=\"t\" font-family=\"'No Such', serif\">Cut</text>", "\"t\" is set in the font \"No Such\""},
+      {"<text font-family=\"DejaVu Sans\">here</text>", ""}};
+  for (const auto& [content, remark] : cases) {
+    const PdfFile file = exported(drawing(spot("Cut") + spot("Ink"), layer("Cut", content)));
+    EXPECT_EQ(file.remarks.size(), remark.empty() ? 0U : 1U) << content;
+    for (const std::string& each : file.remarks) EXPECT_THAT(each, HasSubstr(remark));
   }
-  return others / static_cast<double>(width * height);
-}
-
-constexpr char kFadingInks[] =
-    R"svg(<defs><linearGradient id="h"><stop stop-color="#0f0"/><stop offset="1" stop-color="#00f"/></linearGradient>
-<marker id="m" markerWidth="4" markerHeight="4" refX="2" refY="2"><circle cx="2" cy="2" r="2" fill="#00f"/></marker>
-</defs><g opacity="0.5"><rect x="10" y="10" width="80" height="80" fill="#ff0000" ch:fill="custom('Gold' 0)"/>
-<rect x="50" y="50" width="80" height="80" fill="#0a0"/><rect x="9" y="99" width="40" height="40" fill="url(#h)"/></g>
-<rect opacity="0.5" x="160" y="20" width="100" height="60" fill="#00f" stroke="#ff0000" stroke-width="20"
-ch:stroke="custom('Gold' 0)"/><g opacity="0.5"><rect opacity="0.7" x="160" y="120" width="100" height="60"
-fill="url(#h)" stroke="#ff0000" stroke-width="9" ch:stroke="custom('Gold' 0)"/></g><path d="M20 200H120V280"
-marker-start="url(#m)" marker-mid="url(#m)" fill="none" stroke="#ff0000" stroke-width="4"
-ch:stroke="custom('Gold' 0)"/>)svg";
-
-TEST_F(PdfExportTest, PagesLookLikeTheCanvas) {
-  const std::string inks =
-      drawing(spot("Gold") + spot("Cut"), layer("Inks", kFadingInks) + layer("Cut", line("Cut")));
-  EXPECT_TRUE(exported(inks).remarks.empty());
-  for (const std::string& svg : {inks, drawing({}, layer("Print", kPrint))}) {
-    const std::string file = write("look.pdf", exported(svg).bytes);
-    EXPECT_EQ(said("qpdf --check " + file + " >/dev/null"), "");
-    ASSERT_EQ(said("pdftoppm -r 72 -singlefile " + file + " " + scratch_.file("look")), "");
-    EXPECT_LT(shareOfOtherPixels(svg, scratch_.read("look.ppm")), 0.005);
-  }
-}
-
-TEST_F(PdfExportTest, WhatInksCostIsSaid) {
-  const PdfFile file =
-      exported(drawing(spot("Cut"), layer("Cut",
-                                          "<text x=\"30\" y=\"50\" id=\"word\" fill=\"none\" "
-                                          "stroke=\"#ff0000\" ch:stroke=\"custom('Cut' 0)\">"
-                                          "Cut</text>")));
-  EXPECT_THAT(file.remarks, testing::ElementsAre(HasSubstr("\"word\" is painted with inks")));
-  const PdfFile other = exported(drawing({},
-                                         "<text id=\"t\" font-family=\"'No Such', serif\">Cut</text>"
-                                         "<text font-family=\"DejaVu Sans\">here</text>"));
-  EXPECT_THAT(other.remarks, testing::ElementsAre(HasSubstr("\"t\" is set in the font \"No Such\"")));
 }
 
 }  // namespace
