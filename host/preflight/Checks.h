@@ -19,6 +19,12 @@ struct Tally {
   }
 };
 
+// A name as it stands in a sentence; a long one ends in dots.
+std::string inQuotes(const std::string& name);
+// Where that is, such as ", \u201CLid\u201D at (12.3, 45.6) mm", and of several where the first is. Not for
+// an empty one.
+std::string where(const PreflightJob& job, const Tally& tally);
+
 void checkOpenPaths(const PreflightJob& job, Findings& findings);
 void checkDoubledLines(const PreflightJob& job, Findings& findings);
 void checkReach(const PreflightJob& job, Findings& findings);

@@ -38,19 +38,20 @@ void checkClearZones(const PreflightJob& job, Findings& findings) {
     if (!zone.entering.empty() && entered++ == 0) firstEntered = &zone;
     if (!zone.covering.empty() && covered++ == 0) firstCovered = &zone;
   }
+  const auto first = [](std::size_t count) { return count == 1 ? "" : "the first "; };
   const std::string of = " of " + counted(zones.size(), "mark");
   const std::string& layer = zones.empty() ? std::string() : job.document.layer(job.markLayer)->title;
   if (entered > 0) {
     findings.push_back({FindingKind::InClearZone,
                         std::to_string(entered) + of + verb(entered, " has", " have") + " art within " +
-                            job.length(firstEntered->radius) + " of the centre, the first " +
+                            job.length(firstEntered->radius) + " of the centre, " + first(entered) +
                             job.at(firstEntered->mark.centre) + ": a camera takes it for a part of the mark",
                         entering.take(), layer});
   }
   if (covered > 0) {
     findings.push_back({FindingKind::InClearZone,
-                        std::to_string(covered) + of + verb(covered, " lies", " lie") +
-                            " on art, the first " + job.at(firstCovered->mark.centre) +
+                        std::to_string(covered) + of + verb(covered, " lies", " lie") + " on art, " +
+                            first(covered) + job.at(firstCovered->mark.centre) +
                             ": a camera wants black on white",
                         covering.take(), layer});
   }

@@ -28,9 +28,8 @@ void checkType(const PreflightJob& job, const PreflightJob::Type& type, Findings
   if (tally.count == 0) return;
   findings.push_back({FindingKind::DoubledLine,
                       counted(tally.count, "path") + " in " + type.is.name +
-                          (tally.count == 1 ? " runs where a line is already, for "
-                                            : " lie over each other, the first for ") +
-                          job.length(firstLength) + " " + job.at(tally.first) +
+                          verb(tally.count, " runs where a line is already", " lie over each other") +
+                          where(job, tally) + " for " + job.length(firstLength) +
                           ": a tool would go there twice",
                       tally.art, type.is.name});
 }

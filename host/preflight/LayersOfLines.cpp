@@ -27,17 +27,16 @@ class LayerCheck {
         findings.push_back({FindingKind::WrongLayer,
                             counted(tally.count, "path") + " in " + name +
                                 verb(tally.count, " lies", " lie") + " on the layer " + title +
-                                ", the first " + job_.at(tally.first) +
-                                ": a table that goes by layers misses " + verb(tally.count, "it", "them"),
+                                where(job_, tally) + ": a table that goes by layers misses " +
+                                verb(tally.count, "it", "them"),
                             tally.art, name});
       }
       const Tally& others = others_[type];
       if (others.count == 0) continue;
       findings.push_back({FindingKind::WrongLayer,
                           counted(others.count, "object") + " on the layer " + name +
-                              verb(others.count, " is", " are") + " not painted in it, the first " +
-                              job_.at(others.first) + ": a table that goes by layers cuts " +
-                              verb(others.count, "it", "them"),
+                              verb(others.count, " is", " are") + " not painted in it" + where(job_, others) +
+                              ": a table that goes by layers cuts " + verb(others.count, "it", "them"),
                           others.art, name});
     }
   }

@@ -25,7 +25,7 @@ struct OverlapLimits {
 };
 
 // In ascending order of paths; a path may run over itself. Takes time in the order of n log n for the lines'
-// total number of segments; what of a tangle has hundreds of other lines within `least` may be missed.
+// total number of segments.
 std::vector<LineOverlap> findOverlaps(const std::vector<const PathGeometry*>& paths,
                                       const OverlapLimits& limits);
 

@@ -40,7 +40,7 @@ void checkLiveText(const PreflightJob& job, Findings& findings) {
     if (tally.count == 0) continue;
     findings.push_back({FindingKind::LiveText,
                         counted(tally.count, "text") + " in " + name + verb(tally.count, " is", " are") +
-                            " still text, the first " + job.at(tally.first) +
+                            " still text" + where(job, tally) +
                             ": no table follows a font; turn letters into paths",
                         tally.art, name});
   }

@@ -108,7 +108,7 @@ class FrameCheck {
   }
 
   std::string sentence(Place place, const Tally& tally) const {
-    const std::string first = ", the first " + job_.at(tally.first);
+    const std::string first = where(job_, tally);
     switch (place) {
       case Place::SheetWithoutMarks:
         return verb(tally.count, "lies", "lie") + std::string(" on an artboard without marks") + first +

@@ -177,7 +177,7 @@ std::vector<MarkZone> zonesOf(const PreflightJob& job) {
   double widest = 0;
   for (const JobMark& mark : job.marks) {
     const double size = std::max(mark.box.right - mark.box.left, mark.box.top - mark.box.bottom);
-    zones.push_back({mark, kRadiusInSizes * size - job.unitsOf(kRounding), {}, {}});
+    zones.push_back({mark, kRadiusInSizes * size, {}, {}});
     widest = std::max(widest, zones.back().radius);
   }
   std::vector<MarkZone*> byX;
@@ -194,7 +194,7 @@ std::vector<MarkZone> zonesOf(const PreflightJob& job) {
     for (; zone != byX.end() && (*zone)->mark.centre.x <= near.right; ++zone) {
       MarkZone& at = **zone;
       if (!contains(near, at.mark.centre) || job.document.isWithin(object.art, at.mark.art)) continue;
-      const Circle circle{at.mark.centre, at.radius};
+      const Circle circle{at.mark.centre, at.radius - job.unitsOf(kRounding)};
       if (inked.whitens(circle)) {
         at.entering.clear();
         at.covering.clear();

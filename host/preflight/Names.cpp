@@ -24,8 +24,9 @@ std::string tidied(const std::string& name) {
   return QString::fromStdString(name).simplified().toStdString();
 }
 
-std::string inQuotes(const std::string& name) {
-  return "\u201C" + name + "\u201D";
+// A plain cut may go through or not, so it has no usual step, but nobody prints it.
+bool isUsual(const std::string& name) {
+  return !usualStepOf(tidied(name)).empty() || readName(name) == "cut";
 }
 
 // A name as it is written, and what bears it.
@@ -115,7 +116,7 @@ class NameCheck {
 
   // The name of a usual line type that is but half of one.
   void reportLonely(const Spelling& spelling, Findings& findings) const {
-    if (usualStepOf(tidied(spelling.name)).empty() || spelling.isLayer == spelling.isSpot) return;
+    if (!isUsual(spelling.name) || spelling.isLayer == spelling.isSpot) return;
     const auto painted = painted_.find(spelling.name);
     if (spelling.isSpot && painted != painted_.end()) {
       findings.push_back({FindingKind::NearMissName,

@@ -3,6 +3,7 @@
 
 #include "Bounds.h"
 #include "Checks.h"
+#include "Geometry.h"
 #include "Vector.h"
 
 namespace host {
@@ -11,6 +12,7 @@ namespace {
 // Millimetres. Ends closer than this are one point to any table; up to the other, somebody meant to close it.
 constexpr double kTouching = 0.01;
 constexpr double kNearlyClosed = 2;
+constexpr double kAtEdge = 0.5;  // from the edge of a sheet
 // Beside its gap, a shape that was meant to be closed is at least so many times as wide or high.
 constexpr double kShapeToGap = 3;
 
@@ -32,15 +34,15 @@ class OpenPaths {
     const std::string in = " in " + type_.is.name;
     if (nearly_.count > 0) {
       findings.push_back({FindingKind::OpenPath,
-                          counted(nearly_.count, "nearly closed path") + in + ": the first has a gap of " +
-                              job_.length(firstGap_) + " " + job_.at(nearly_.first) +
-                              ", where the part stays attached",
+                          counted(nearly_.count, "path") + in + verb(nearly_.count, " is", " are") +
+                              " nearly closed" + where(job_, nearly_) + ": a gap of " +
+                              job_.length(firstGap_) + " keeps the part attached",
                           nearly_.art, type_.is.name});
     }
     if (open_.count > 0) {
       findings.push_back({FindingKind::OpenPath,
-                          counted(open_.count, "open path") + in + ": the first ends " +
-                              job_.at(open_.first) + "; only a closed line cuts a part free",
+                          counted(open_.count, "path") + in + verb(open_.count, " is", " are") + " open" +
+                              where(job_, open_) + ": only a closed line cuts a part free",
                           open_.art, type_.is.name});
     }
   }
@@ -55,9 +57,18 @@ class OpenPaths {
     if (gap <= job_.unitsOf(kNearlyClosed) && isShape) {
       if (nearly_.count == 0) firstGap_ = gap;
       nearly_.add(art, path.segments.back().p);
-    } else if (shouldBeClosed(type_.step)) {
+    } else if (shouldBeClosed(type_.step) && !runsBetweenEdges(path, box)) {
       open_.add(art, path.segments.back().p);
     }
+  }
+
+  // The edges of the sheet close it.
+  bool runsBetweenEdges(const PathGeometry& path, const AIRealRect& box) const {
+    const std::size_t sheet = job_.sheetAt({(box.left + box.right) / 2, (box.top + box.bottom) / 2});
+    if (sheet == PreflightJob::kNone) return false;
+    const AIRealRect inner =
+        inflated(job_.document.state().artboards[sheet].position, -job_.unitsOf(kAtEdge));
+    return !contains(inner, path.segments.front().p) && !contains(inner, path.segments.back().p);
   }
 
   const PreflightJob& job_;

@@ -64,9 +64,8 @@ std::size_t PreflightJob::sheetAt(AIRealPoint point) const {
 }
 
 std::string PreflightJob::at(AIRealPoint point) const {
-  const AIRealRect& sheet = document.state().artboards.front().position;
-  return "at (" + numberText(millimetresOf(point.x - sheet.left), 1) + ", " +
-         numberText(millimetresOf(sheet.top - point.y), 1) + ") mm";
+  return "at (" + numberText(millimetresOf(point.x), 1) + ", " + numberText(millimetresOf(point.y), 1) +
+         ") mm";
 }
 
 std::string PreflightJob::length(double units) const {

@@ -45,7 +45,7 @@ struct PreflightJob {
 
   double unitsOf(double millimetres) const { return millimetres * kPointsInMillimetre / document.scale(); }
   double millimetresOf(double units) const { return units * document.scale() / kPointsInMillimetre; }
-  // "at (12.3, 45.6) mm": from the upper left of the first artboard, y down.
+  // "at (12.3, 45.6) mm", as rulers count: from the lower left corner of the first artboard, y up.
   std::string at(AIRealPoint point) const;
   std::string length(double units) const;  // such as "0.35 mm"
 };

@@ -70,7 +70,7 @@ class ReachCheck {
 
   std::string sentence(const Tally& tally, int reason) const {
     const std::string be = verb(tally.count, "is", "are");
-    const std::string first = ", the first " + job_.at(tally.first);
+    const std::string first = where(job_, tally);
     switch (reason) {
       case kHiddenLayer:
         return be + " on a hidden layer" + first + ": nothing of it reaches the table";

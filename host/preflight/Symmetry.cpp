@@ -56,6 +56,14 @@ bool looksTheSameTurned(const std::vector<JobMark>& marks) {
                      [&](const JobMark& mark) { return near.any(middle * 2 - mark.centre); });
 }
 
+// Only where there are several.
+std::string ofSheet(const PreflightJob& job, std::size_t sheet) {
+  const auto& sheets = job.document.state().artboards;
+  if (sheets.size() == 1) return {};
+  const std::string& name = sheets[sheet].name;
+  return " of the artboard " + (name.empty() ? std::to_string(sheet + 1) : inQuotes(name));
+}
+
 }  // namespace
 
 void checkSymmetry(const PreflightJob& job, Findings& findings) {
@@ -68,7 +76,7 @@ void checkSymmetry(const PreflightJob& job, Findings& findings) {
     std::vector<ArtId> art;
     for (const JobMark& mark : marks) art.push_back(mark.art);
     findings.push_back({FindingKind::SymmetricalMarks,
-                        "The " + counted(marks.size(), "mark") +
+                        "The " + counted(marks.size(), "mark") + ofSheet(job, sheet) +
                             " look the same when the sheet is turned by 180 degrees: it can be cut upside "
                             "down unnoticed; one more mark off the middle of an edge tells",
                         art, job.document.layer(job.markLayer)->title});

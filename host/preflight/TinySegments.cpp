@@ -33,14 +33,14 @@ void checkType(const PreflightJob& job, const PreflightJob::Type& type, Findings
   if (shorter.count > 0) {
     findings.push_back({FindingKind::TinySegment,
                         counted(shorter.count, "segment") + in + verb(shorter.count, " is", " are") +
-                            " shorter than " + job.length(tiny) + ", the first " + job.at(shorter.first) +
+                            " shorter than " + job.length(tiny) + where(job, shorter) +
                             ": too short for a tool to follow",
                         shorter.art, type.is.name});
   }
   if (empty.count > 0) {
     findings.push_back({FindingKind::TinySegment,
                         counted(empty.count, "segment") + in + verb(empty.count, " has", " have") +
-                            " no length, the first " + job.at(empty.first) +
+                            " no length" + where(job, empty) +
                             ": a tool stops there, or goes down for nothing",
                         empty.art, type.is.name});
   }

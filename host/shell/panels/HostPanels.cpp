@@ -19,6 +19,7 @@ constexpr int kLeastWidth = 180;
 constexpr int kWidth = 230;
 constexpr int kLeastHeight = 66;
 constexpr int kHeight = 150;
+constexpr int kHeightOfSentences = 280;
 
 PanelDock::Face faceOf(const char* title) {
   PanelDock::Face face;
@@ -31,13 +32,21 @@ PanelDock::Face faceOf(const char* title) {
 }
 
 // The first time: beside the drawing, and the artboards, of which there is mostly one, out of the way.
-PanelPlace firstPlace(bool isCollapsed, bool isShown = true) {
+PanelPlace firstPlace(bool isCollapsed) {
   PanelPlace place;
-  place.isShown = isShown;
+  place.isShown = true;
   place.isCollapsed = isCollapsed;
   place.area = Qt::RightDockWidgetArea;
   place.width = kWidth;
   place.height = kHeight;
+  return place;
+}
+
+// Only who asks for sentences gets them.
+PanelPlace firstPlaceOfPreflight() {
+  PanelPlace place = firstPlace(false);
+  place.isShown = false;
+  place.height = kHeightOfSentences;
   return place;
 }
 
@@ -49,7 +58,7 @@ HostPanels::HostPanels(QMainWindow& window, Host& host, Session& session, Comman
   add("Layers", firstPlace(false), std::make_unique<LayersPanel>(host, session, changed));
   add("Swatches", firstPlace(false), std::make_unique<SwatchesPanel>(host, session, changed));
   add("Artboards", firstPlace(true), std::make_unique<ArtboardsPanel>(host, session, changed, commands_.fit));
-  add("Preflight", firstPlace(false, false),
+  add("Preflight", firstPlaceOfPreflight(),
       std::make_unique<PreflightPanel>(host, session, changed, commands_.fit));
 }
 

@@ -43,6 +43,11 @@ void PanelList::turnTo(int row) {
   }
 }
 
+void PanelList::standAt(int row) {
+  const QScopedValueRollback quiet(isTurning_, true);
+  selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
+}
+
 void PanelList::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QListView::currentChanged(current, previous);
   if (!isTurning_ && current.isValid() && onTurned) onTurned(current.row());
@@ -72,6 +77,7 @@ void PanelList::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void PanelList::focusInEvent(QFocusEvent* event) {
+  const QScopedValueRollback quiet(isTurning_, true);  // the first row becomes current if none is
   QListView::focusInEvent(event);
   viewport()->update();
 }

@@ -21,6 +21,8 @@ class PanelList : public QListView {
 
   // By the program. -1: to none.
   void turnTo(int row);
+  // By the program: keys go on from there, and nothing is chosen.
+  void standAt(int row);
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;

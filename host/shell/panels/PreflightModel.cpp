@@ -70,12 +70,12 @@ QIcon signIcon(bool isForGrave) {
 
 }  // namespace
 
-void PreflightModel::show(std::vector<Finding> findings) {
+void PreflightModel::show(std::vector<Finding> findings, const QString& allClear) {
   beginResetModel();
   findings_ = std::move(findings);
   isStale_ = false;
   makeRows();
-  if (rows_.empty()) rows_.push_back({"No findings"});
+  if (rows_.empty()) rows_.push_back({allClear});
   endResetModel();
 }
 
@@ -92,7 +92,7 @@ void PreflightModel::markStale() {
   if (isStale_) return;
   beginInsertRows({}, 0, 0);
   isStale_ = true;
-  rows_.insert(rows_.begin(), Row{"Changed since. Check again"});
+  rows_.insert(rows_.begin(), Row{"Changed since. F5 checks again"});
   endInsertRows();
 }
 

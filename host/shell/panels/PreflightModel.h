@@ -11,8 +11,9 @@ namespace host {
 
 class PreflightModel : public QAbstractListModel {
  public:
-  void show(std::vector<Finding> findings);  // of a document that was checked
-  void showNothing();                        // there is no document
+  // Of a document that was checked. If there are none, `allClear` says so.
+  void show(std::vector<Finding> findings, const QString& allClear);
+  void showNothing();  // there is no document
   // A row above the others says that they are of an earlier state of the document.
   void markStale();
 

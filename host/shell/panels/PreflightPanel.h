@@ -9,7 +9,7 @@
 
 namespace host {
 
-class PanelList;
+class FindingList;
 
 // Checks the document a moment after it has changed, while the panel is seen. A document that took long is
 // checked only when the user asks for it.
@@ -39,14 +39,16 @@ class PreflightPanel : public HostPanel {
 
   void check();
   void enter(int row);
-  void select(const Finding& finding);
+  void step(int by);
+  void select(const std::vector<ArtId>& art);
 
   std::function<void(const AIRealRect&)> fit_;
   PreflightModel model_;
-  PanelList* list_;
+  FindingList* list_;
   QTimer soon_;
   State checked_;
   bool isSlow_ = false;
+  int stepped_ = -1;  // to which of the art of the current finding; -1: to all of it
 };
 
 }  // namespace host

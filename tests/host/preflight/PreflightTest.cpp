@@ -17,8 +17,8 @@ using testing::HasSubstr;
 constexpr char kCutPaint[] = " style='fill:none;stroke:#f00' ch:stroke=\"custom('Through Cut' 0)\"";
 constexpr char kCreasePaint[] = " style='fill:none;stroke:#00f' ch:stroke=\"custom('Crease' 0)\"";
 
-std::string cut(const std::string& data) {
-  return std::string("<path") + kCutPaint + " d='" + data + "'/>";
+std::string cut(const std::string& data, const std::string& name = {}) {
+  return std::string("<path") + kCutPaint + " inkscape:label='" + name + "' d='" + data + "'/>";
 }
 std::string crease(const std::string& data) {
   return std::string("<path") + kCreasePaint + " d='" + data + "'/>";
@@ -59,19 +59,31 @@ struct Case {
 std::vector<Case> cases() {
   const std::string square = "M40 40h60v60h-60z";
   const std::string squareInFrame = layer("Through Cut", cut(square));
+  std::string bundle;
+  for (int i = 0; i < 500; ++i) bundle += cut("M10 10h40v40h-40z");
   const std::string withFifth = layer("Regmark", kFourMarks + mark(60, 180));
   return {
-      {"clean", layer("Print", "<rect width='9' height='9'/>") + squareInFrame + withFifth, {}, ""},
+      {"clean: print out of reach, text in print, art up to a mark's clear zone, a name with one more word",
+       layer("Print",
+             "<text x='90' y='50'>Moin</text><rect x='186' y='14' width='9' height='12'/>"
+             "<g sodipodi:insensitive='true'><rect width='9' height='9' style='display:none'/></g>") +
+           layer("Through Cut 2", "") + squareInFrame + withFifth,
+       {},
+       ""},
       {"nearly closed",
        layer("Through Cut", cut("M10 10h40v40h-40V10.35")),
        {"open-path"},
-       "1 nearly closed path in Through Cut: the first has a gap of 0.35 mm at (10, 10.4) mm"},
-      {"a crease is open, its ends may lie on each other",
+       "1 path in Through Cut is nearly closed, at (10, 189.6) mm: a gap of 0.35 mm keeps the part attached"},
+      {"a crease is open, ends lie on each other, the sheet closes what runs from edge to edge",
        layer("Crease", crease("M10 10h40") + crease("M10 30h40v40h-40v-39")) +
-           layer("Through Cut", cut("M60 10h9v9h-9v-9")),
+           layer("Through Cut", cut("M60 10h9v9h-9v-9") + cut("M-3 150h150v53")),
        {},
        ""},
-      {"open", layer("Through Cut", cut("M10 10h40v40")), {"open-path"}, "the first ends at (50, 50) mm"},
+      {"open, one of them from an edge",
+       layer("Through Cut", cut("M10 10h40v40") + cut("M0 100h40v40")),
+       {"open-path"},
+       "2 paths in Through Cut are open, the first at (40, 60) mm",
+       2},
       {"doubled: the other way round, otherwise divided, in part",
        layer("Through Cut",
              cut(square) + cut("M100 40h-60v60h60z") + "<circle cx='150' cy='50' r='20'" + kCutPaint + "/>" +
@@ -80,6 +92,11 @@ std::vector<Case> cases() {
        {"doubled-line"},
        "6 paths in Through Cut lie over each other",
        6},
+      {"doubled beside a bundle",
+       layer("Through Cut", bundle + cut("M10 10.45h40v40h-40z") + cut("M10 10.52h40v40h-40z")),
+       {"doubled-line"},
+       "502 paths in Through Cut lie over each other, the first at (10, 189.5) mm for 160 mm",
+       502},
       {"crossing, touching and apart by a quarter of a millimetre",
        layer("Through Cut", cut(square) + cut("M30 70h80v40h-80z") + cut("M100 100h20v20h-20z") +
                                 cut("M40.25 40.25h59.5v59.5h-59.5z")),
@@ -95,16 +112,16 @@ std::vector<Case> cases() {
        layer("Through Cut", cut(square), "style='display:none'") +
            layer("Regmark", kFourMarks, "style='display:none'"),
        {"out-of-reach", "out-of-reach", "symmetrical-marks"},
-       "1 path in Through Cut is on a hidden layer, the first at (40, 40) mm"},
+       "1 path in Through Cut is on a hidden layer, at (40, 160) mm"},
       {"blanks and case, and a layer without its color",
        layer("Through Cut", cut(square)) + layer("through\u00A0cut ", "") +
            layer("Kiss  cut", cut("M1 1h9v9h-9z")),
        {"near-miss-name", "near-miss-name", "wrong-layer"},
        "The layer \u201CKiss  cut\u201D is named like a line type"},
       {"on the wrong layer, and wrongly painted on the right one",
-       layer("Print", cut(square)) + layer("Through Cut", "<rect x='110' width='9' height='9'/>"),
+       layer("Print", cut(square, "Lid")) + layer("Through Cut", "<rect x='110' width='9' height='9'/>"),
        {"wrong-layer", "wrong-layer"},
-       "1 path in Through Cut lies on the layer Print, the first at (40, 40) mm"},
+       "1 path in Through Cut lies on the layer Print, \u201CLid\u201D at (40, 160) mm"},
       {"out of the frame, or too near to it",
        layer("Through Cut", cut("M2 40h60v60h-60z") + cut("M40 20.5h60v60h-60z") + cut("M40 90h9v9h-9z") +
                                 cut("M300 300h9v9h-9z")) +
@@ -118,12 +135,12 @@ std::vector<Case> cases() {
              "<rect x='174.1' y='24' width='9' height='9'/>") +
            withFifth,
        {"in-clear-zone", "in-clear-zone"},
-       "1 of 5 marks has art within 5.98 mm of the centre, the first at (180, 20) mm"},
+       "1 of 5 marks has art within 6 mm of the centre, at (180, 180) mm"},
       {"symmetrical", layer("Regmark", kFourMarks), {"symmetrical-marks"}, "The 4 marks look the same", 4},
       {"tiny, and of no length",
-       layer("Through Cut", cut("M40 40h60v0.05h0.04v60h-60.04z") + cut("M10 10h9v9v0h-9z")),
+       layer("Through Cut", cut("M40 40h60v0.05h0.04v60h-59.84v0.11h-0.2z") + cut("M10 10h9v9v0h-9z")),
        {"tiny-segment", "tiny-segment"},
-       "2 segments in Through Cut are shorter than 0.1 mm, the first at (100, 40) mm"},
+       "2 segments in Through Cut are shorter than 0.1 mm, at (100, 160) mm"},
       {"text",
        layer("Through Cut", "<text x='9' y='50'>Moin</text>"),
        {"live-text"},
@@ -138,7 +155,7 @@ TEST(Preflight, FindsWhatIsWrongAndNothingElse) {
     std::vector<std::string> kinds;
     std::string sentences;
     for (const Finding& finding : findings) {
-      kinds.push_back(keyOf(finding.kind));
+      kinds.emplace_back(keyOf(finding.kind));
       sentences += finding.sentence + "\n";
     }
     EXPECT_THAT(kinds, ElementsAreArray(row.kinds)) << row.name << "\n" << sentences;
