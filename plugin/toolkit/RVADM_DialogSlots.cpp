@@ -1,5 +1,7 @@
 // Where the signals and meta-calls of items arrive.
+#include <QCoreApplication>
 #include <QLineEdit>
+#include <exception>
 
 #include "RVADM_Dialog.h"
 #include "RVADM_ListBox.h"
@@ -46,8 +48,16 @@ void RVADM_Dialog::OnCheckBoxClicked() {
   NotifyItem(GetSenderItem(), kUserChanged);
 }
 
+// Qt's list is at work meanwhile and loses memory to what is thrown through it: that comes out of the event
+// loop instead.
 void RVADM_Dialog::OnListBoxChanged() {
-  NotifyItem(GetSenderItem(), kUserChanged);
+  try {
+    NotifyItem(GetSenderItem(), kUserChanged);
+  } catch (...) {
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [failure = std::current_exception()] { std::rethrow_exception(failure); }, Qt::QueuedConnection);
+  }
 }
 
 void RVADM_Dialog::OnListBoxChangedAsync() {

@@ -146,23 +146,6 @@ TEST_F(GalleryTest, ThePaletteLivesThroughEveryFault) {
   }
 }
 
-TEST_F(GalleryTest, UsersReachEveryKindOfItem) {
-  const auto dismissed = visitDialog([](QWidget& dialog) {
-    const auto isNamed = [&](const char* text) {
-      const QList<QLabel*> labels = dialog.findChildren<QLabel*>();
-      return std::any_of(labels.begin(), labels.end(), [&](QLabel* label) { return label->text() == text; });
-    };
-    QTest::mouseClick(buttonIn(dialog, "Cut"), Qt::LeftButton);
-    EXPECT_TRUE(isNamed("Text button, Normal"));
-    QTest::mouseClick(buttonIn(dialog, "Many"), Qt::LeftButton);
-    EXPECT_TRUE(isNamed("90 %"));
-    EXPECT_NE(QApplication::focusWidget(), nullptr);
-    EXPECT_EQ(buttonIn(dialog, "Cut")->toolTip(), "A tip tells what the item is for.");
-    QTest::keyClick(&dialog, Qt::Key_Return);
-  });
-  EXPECT_THAT(dismissed, ElementsAre()) << "Return is the default button";
-}
-
 TEST_F(GalleryTest, FollowsTheThemeAndHasItsOwnTextsBesideAnotherPlugin) {
   QWidget& shown = palette();
   const QImage light = shown.grab().toImage();

@@ -18,6 +18,7 @@ struct ProcessResult {
   int code;
   std::string out;
   std::string err;
+  bool hasStored;  // anything in the user's folders
 };
 
 inline std::string quoted(const std::string& text) {
@@ -38,7 +39,7 @@ inline ProcessResult runHost(const std::vector<std::string>& arguments, const st
              quoted(scratch.file("err"));
   const int status = std::system(command.c_str());
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readText(scratch.file("out")),
-          readText(scratch.file("err"))};
+          readText(scratch.file("err")), scratch.has("config") || scratch.has("state")};
 }
 
 }  // namespace host

@@ -4,15 +4,9 @@
 
 #include <cstdlib>
 
+#include "Sanitized.h"
 #include "World.h"
 
-#if defined(__SANITIZE_ADDRESS__)
-#define CORVANE_ADDRESS_SANITIZER
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define CORVANE_ADDRESS_SANITIZER
-#endif
-#endif
 #ifdef CORVANE_ADDRESS_SANITIZER
 #include <sanitizer/allocator_interface.h>
 #endif

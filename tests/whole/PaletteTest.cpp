@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QTextEdit>
 #include <QtTest/QTest>
-#include <algorithm>
 
 #include "WindowWorld.h"
 
@@ -16,7 +15,6 @@ namespace host {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr char kPaletteKey[] = "Create Line Type Layers";
@@ -25,24 +23,10 @@ constexpr char kBlocked[] =
     "Could not move selection because one or more line type layers are locked or hidden.";
 constexpr char kNotMoved[] = "One or more objects could not be moved to a Line Type Layer.";
 
-// Two paths, the lower one filled, and a text; a reserved layer that is not on top.
-constexpr char kDrawing[] =
-    "<svg xmlns=\"http://www.w3.org/2000/svg\" "
-    "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" width=\"400pt\" height=\"400pt\" "
-    "viewBox=\"0 0 400 400\">\n"
-    "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Lumenfold\"><rect id=\"kept\" x=\"1\" y=\"1\" "
-    "width=\"9\" height=\"9\"/></g>\n"
-    "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Art\">\n"
-    "    <rect inkscape:label=\"low\" x=\"20\" y=\"20\" width=\"90\" height=\"90\" fill=\"#00f\"/>\n"
-    "    <path inkscape:label=\"high\" d=\"M 200,20 H 300\" stroke=\"#000\"/>\n"
-    "    <text inkscape:label=\"text\" x=\"20\" y=\"200\">Cut here</text>\n"
-    "  </g>\n"
-    "</svg>\n";
-
 class PaletteTest : public WindowTest {
  protected:
   PaletteTest() {
-    scratch.write("drawing.svg", kDrawing);
+    scratch.write("drawing.svg", pathsAndText());
     EXPECT_THAT(window.openFiles({file}), IsEmpty());
   }
 
@@ -81,16 +65,9 @@ class PaletteTest : public WindowTest {
     QCoreApplication::processEvents();
   }
 
-  ArtId art(const std::string& name) {
-    for (ArtId id = 1; id <= world.document().artSlots(); ++id) {
-      const Art* found = world.document().art(id);
-      if (found != nullptr && found->name == name) return id;
-    }
-    ADD_FAILURE() << "no art " << name;
-    return 0;
-  }
+  ArtId art(const std::string& name) { return artNamed(world.document(), name); }
   void select(const std::vector<std::string>& names) {
-    for (const ArtId id : world.document().selection()) world.document().setSelected(id, false);
+    world.document().deselectAll();
     for (const std::string& name : names) world.document().setSelected(art(name), true);
     window.refresh();
     QCoreApplication::processEvents();
@@ -106,18 +83,8 @@ class PaletteTest : public WindowTest {
   std::string layerOf(const std::string& name) {
     return world.document().layer(world.document().layerOfArt(art(name)))->title;
   }
-  std::vector<std::string> layers() {
-    std::vector<std::string> titles;
-    for (const LayerId id : world.document().state().layers) {
-      titles.push_back(world.document().layer(id)->title);
-    }
-    return titles;
-  }
   Layer& layer(const std::string& title) {
-    const auto& all = world.document().state().layers;
-    const auto found = std::find_if(all.begin(), all.end(),
-                                    [&](LayerId id) { return world.document().layer(id)->title == title; });
-    return world.document().editLayer(*found);
+    return world.document().editLayer(layerTitled(world.document(), title));
   }
   // What the message boxes say that come up meanwhile; each is answered.
   std::vector<std::string> textsDuring(const std::function<void()>& act) {
@@ -184,24 +151,6 @@ TEST_F(PaletteTest, TakesNoticeWhileItIsShownAndADocumentIsOpen) {
   EXPECT_TRUE(list().isEnabled());
 }
 
-TEST_F(PaletteTest, RowsShowTheirColourAndName) {
-  showPalette();
-  EXPECT_EQ(dock().widget()->width(), 240);
-  for (int i = 0; i < 3; ++i) {
-    const QListWidgetItem* item = list().item(i);
-    const QRect place = list().visualItemRect(item);
-    EXPECT_EQ(place.height(), 21);
-    const QImage picture = list().viewport()->grab(place).toImage();
-    const QColor patch = picture.pixelColor(10, 10);
-    EXPECT_GT(patch.hsvSaturation(), 60) << nameOf(item).toStdString();
-    int dark = 0;
-    for (int x = 20; x < picture.width(); ++x) {
-      for (int y = 0; y < 20; ++y) dark += picture.pixelColor(x, y).lightness() < 110 ? 1 : 0;
-    }
-    EXPECT_GT(dark, 20) << "a name in ink";
-  }
-}
-
 TEST_F(PaletteTest, SpeaksTheUsersLanguageAndClipsNothing) {
   struct Row {
     const char* language;
@@ -231,32 +180,25 @@ TEST_F(PaletteTest, SpeaksTheUsersLanguageAndClipsNothing) {
 }
 
 TEST_F(PaletteTest, NoticesComeUpAtTheirAnchorAndGrowWithTheirDialog) {
-  QString shown;
-  QRect text, ok;
-  QSize size;
   const BoxAnswer answer([&](QDialog& dialog) {
-    auto& edit = *dialog.findChild<QTextEdit*>();
+    const auto& edit = *dialog.findChild<QTextEdit*>();
+    QPushButton& ok = *dialog.findChild<QPushButton*>();
     dialog.resize(dialog.width() + 100, dialog.height() + 50);
     QCoreApplication::processEvents();
-    shown = edit.toPlainText();
+    for (const char* name :
+         {"Qt", "Boost", "librsvg", "Little CMS", "Expat", "CLI11", "JSON", "DejaVu", "ICU"}) {
+      EXPECT_TRUE(edit.toPlainText().contains(name)) << name;
+    }
     EXPECT_TRUE(edit.isReadOnly());
-    text = edit.geometry();
-    QPushButton& button = *dialog.findChild<QPushButton*>();
-    ok = button.geometry();
-    size = dialog.size();
-    QTest::mouseClick(&button, Qt::LeftButton);
+    EXPECT_GE(dialog.width(), 550);
+    EXPECT_EQ(edit.geometry().right(), ok.geometry().right()) << "as wide as the room";
+    EXPECT_LT(edit.geometry().bottom(), ok.y());
+    EXPECT_GT(edit.height(), dialog.height() - 100);
+    QTest::mouseClick(&ok, Qt::LeftButton);
   });
   world.choose({"Help", world.textOf("Vandrell  "), world.textOf("Legal Notices...")});
   ASSERT_TRUE(answer.seen());
   EXPECT_EQ(answer.seen()->title, "Legal Notices");
-  for (const char* name :
-       {"Qt", "Boost", "librsvg", "Little CMS", "Expat", "CLI11", "JSON", "DejaVu", "ICU"}) {
-    EXPECT_TRUE(shown.contains(name)) << name;
-  }
-  EXPECT_GE(size.width(), 550);
-  EXPECT_EQ(text.right(), ok.right()) << "the view is as wide as the room, the button in its corner";
-  EXPECT_LT(text.bottom(), ok.top());
-  EXPECT_GT(text.height(), size.height() - 100);
 }
 
 }  // namespace

@@ -53,6 +53,9 @@ struct Life {
 
   Life(const std::function<void(Refusal&)>& start, const std::function<void(Refusal&)>& end) {
     RefusalWorld world(squareOnPage());
+    const std::string before = world.saved();
+    world.host.preferences().put("Corvane", "SelectedTool", std::int32_t{1});  // is shown again by the start
+    world.writeCustomFile();
     Refusal& refusal = world.host.refusal();
     if (start) start(refusal);
     complaint = world.load();
@@ -66,6 +69,8 @@ struct Life {
     refusal.clear();
     EXPECT_EQ(world.host.contexts().depth(), 0U);
     EXPECT_TRUE(std::holds_alternative<SvgDrawing>(readSvg(world.saved(), nullptr)));
+    while (world.drawing.document->undo()) continue;
+    EXPECT_TRUE(world.saved() == before);
     refused = refusal.refused();
     remains = {world.heldSuites(), world.ownedObjects()};
   }

@@ -1,6 +1,6 @@
 #include "RefusalSweep.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <QApplication>
 #include <algorithm>
@@ -17,20 +17,12 @@ using RVADMQtManager::QtManager;
 // Where there are more calls than this, the next run without refusal is for the first of each kind only.
 constexpr std::uint64_t kManyCalls = 200;
 
-// Two paths and a text, and a reserved layer that is not on top. The scale makes the samples of free space
-// few.
-constexpr char kDrawing[] =
-    "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:ch=\"urn:x-corvane-host:drawing:1\" ch:scale=\"25\" "
-    "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" width=\"400pt\" height=\"400pt\" "
-    "viewBox=\"0 0 400 400\">\n"
-    "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Lumenfold\"><rect x=\"150\" y=\"150\" "
-    "width=\"9\" height=\"9\"/></g>\n"
-    "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Art\">\n"
-    "    <rect inkscape:label=\"low\" x=\"120\" y=\"120\" width=\"90\" height=\"90\" fill=\"#00f\"/>\n"
-    "    <path inkscape:label=\"high\" d=\"M 200,120 H 300\" stroke=\"#000\"/>\n"
-    "    <text inkscape:label=\"text\" x=\"120\" y=\"300\">Cut here</text>\n"
-    "  </g>\n"
-    "</svg>\n";
+// So large that the samples of free space are few.
+constexpr int kScale = 25;
+
+// The host's own, that nothing could be painted, that there is no mark layer, and that there is no art.
+constexpr std::optional<SPErr> kCodes[] = {kSPCanceledByHostError, kBadParameterErr, ErrorCode("!Add"),
+                                           ErrorCode("!BND")};
 
 // Whatever becomes of these calls, nobody may notice: what is only stored, shown, measured or given back.
 constexpr const char* kOfNoAccount[] = {
@@ -65,7 +57,7 @@ struct Run {
 
 class Sweeper {
  public:
-  explicit Sweeper(const Sweep& sweep) : row(sweep), world(kDrawing) {
+  explicit Sweeper(const Sweep& sweep) : row(sweep), world(pathsAndText(kScale)) {
     EXPECT_EQ(world.load(), "");
     world.open();
     before = world.saved();
@@ -150,6 +142,9 @@ class Sweeper {
     const bool hasFailed = std::any_of(which.begin(), which.end(),
                                        [](const std::string& call) { return isAmong(call, kOfAccount); });
     const bool hasCode = refused.answer != clean.answer;
+    if (hasCode) {
+      EXPECT_THAT(kCodes, testing::Contains(refused.answer)) << refused.answer.value_or(0);
+    }
     if (row.tells == Tells::Nothing || row.tells == Tells::Message) {
       EXPECT_FALSE(hasCode) << refused.answer.value_or(0);
     } else if (hasFailed) {

@@ -1,6 +1,8 @@
 // One action of the user, with each of its suite calls refused in turn.
 #pragma once
 
+#include <ostream>
+
 #include "RefusalWorld.h"
 
 namespace host {
@@ -21,6 +23,11 @@ struct Sweep {
   const char* message = nullptr;  // what it says then, and nothing else
   const char* failure = nullptr;  // what the host says of it where its code may throw
 };
+
+// For the names of tests.
+inline void PrintTo(const Sweep& row, std::ostream* out) {
+  *out << row.name;
+}
 
 // Counts the action's calls, then runs it with each of them refused, with each kind of call refused for good,
 // and with each suite that it uses. After every run the action has told what it is to tell; no context and no

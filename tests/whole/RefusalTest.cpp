@@ -21,9 +21,6 @@ namespace {
 
 constexpr char kNoticesKey[] = "Legal Notices...";
 
-constexpr char kCustomFile[] = R"({"Version":1,"Groups":{"Custom":[{"name":"Mine","isCustomDataModel":true,)"
-                               R"("customColor":{"kind":1,"flag":1,"rgb":[1,0,0.5]}}]}})";
-
 void nothing(RefusalWorld&) {}
 
 QList<QPointer<QWidget>> pointersTo(const QList<QWidget*>& widgets) {
@@ -46,6 +43,15 @@ void chooseTool(RefusalWorld& world) {
 }
 void press(RefusalWorld& world) {
   world.note(world.tools->mouseDown({10, 10}));
+}
+void movePointer(RefusalWorld& world) {
+  for (const auto move : {&ToolMessages::trackCursor, &ToolMessages::mouseDrag, &ToolMessages::mouseUp}) {
+    world.note((*world.tools.*move)({10, 10}));
+  }
+}
+template <AIToolType number>
+void editOptions(RefusalWorld& world) {
+  world.note(world.tools->editOptions(world.tool(number)));
 }
 void chooseMarks(RefusalWorld& world) {
   world.choose(kMarksKey);
@@ -94,6 +100,10 @@ void useEverything(QDialog& dialog) {
   }
 }
 
+void leave(QDialog& dialog) {
+  QTest::keyClick(&dialog, Qt::Key_Escape);
+}
+
 constexpr char kNotAllPlaced[] =
     "Not all regmarks are placed because not enough space in the current artboard.";
 constexpr char kNotAdded[] = "Could not add regmarks because the regmark layer is locked or hidden.";
@@ -115,6 +125,12 @@ constexpr Sweep kSweeps[] = {
        world.choose(kMarksKey);
      },
      Tells::Nothing},
+    {"options left", options<0, 1>,
+     [](RefusalWorld& world) {
+       world.hands = leave;
+       world.choose(kMarksKey);
+     },
+     Tells::Nothing},
     {"palette shown and hidden", palette,
      [](RefusalWorld& world) {
        world.choose(kPaletteKey);
@@ -124,7 +140,7 @@ constexpr Sweep kSweeps[] = {
     {"legal notices", nothing, [](RefusalWorld& world) { world.choose(kNoticesKey); }, Tells::Nothing},
     {"preferences used",
      [](RefusalWorld& world) {
-       world.writeCustomFile(kCustomFile);
+       world.writeCustomFile();
        palette(world);
      },
      [](RefusalWorld& world) {
@@ -132,6 +148,12 @@ constexpr Sweep kSweeps[] = {
        world.choose(kPreferencesKey);
      },
      Tells::Code, kNotWritten, "A plug-in failed: AI Exception."},
+    {"preferences left", palette,
+     [](RefusalWorld& world) {
+       world.hands = leave;
+       world.choose(kPreferencesKey);
+     },
+     Tells::Code},
     {"rows of the palette", palette, [](RefusalWorld& world) { world.clickRow(1); }, Tells::Nothing},
     {"create layers", paletteWithRow, [](RefusalWorld& world) { world.pressPaletteButton(); },
      Tells::Nothing},
@@ -142,19 +164,12 @@ constexpr Sweep kSweeps[] = {
     {"round tool selected", selectTool<1>, chooseTool<0>, Tells::Nothing},
     {"cross tool selected", selectTool<0>, chooseTool<1>, Tells::Nothing},
     {"the same tool selected", selectTool<0>, chooseTool<0>, Tells::Nothing},
-    {"pointer", selectTool<1>,
-     [](RefusalWorld& world) {
-       for (const auto move :
-            {&ToolMessages::trackCursor, &ToolMessages::mouseDrag, &ToolMessages::mouseUp}) {
-         world.note((*world.tools.*move)({10, 10}));
-       }
-     },
-     Tells::Nothing},
+    {"pointer of the round tool", selectTool<0>, movePointer, Tells::Nothing},
+    {"pointer of the cross tool", selectTool<1>, movePointer, Tells::Nothing},
     {"round mark by hand", selectTool<0>, press, Tells::CodeAndMessage, kNotAdded},
     {"cross by hand", selectTool<1>, press, Tells::CodeAndMessage, kNotAdded},
-    {"tool options", selectTool<0>,
-     [](RefusalWorld& world) { world.note(world.tools->editOptions(world.tool(0))); }, Tells::Code,
-     kNotAllPlaced},
+    {"options of the round tool", selectTool<0>, editOptions<0>, Tells::Code, kNotAllPlaced},
+    {"options of the cross tool", selectTool<1>, editOptions<1>, Tells::Code, kNotAllPlaced},
     {"table head", selectTool<0>,
      [](RefusalWorld& world) {
        const OpenDocument& open = *world.host.documents().current();

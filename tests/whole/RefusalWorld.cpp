@@ -32,6 +32,11 @@ RefusalWorld::~RefusalWorld() {
   setHostWindow(nullptr);
 }
 
+void RefusalWorld::writeCustomFile() const {
+  scratch.write(kCustomFile, R"({"Version":1,"Groups":{"Custom":[{"name":"Mine","isCustomDataModel":true,)"
+                             R"("customColor":{"kind":1,"flag":1,"rgb":[1,0,0.5]}}]}})");
+}
+
 std::string RefusalWorld::load() {
   std::string complaint = session.loadPlugin(corvaneBundle());
   session.start();
@@ -71,12 +76,7 @@ void RefusalWorld::pressPaletteButton() {
 void RefusalWorld::select(const std::vector<std::string>& names) {
   Document& document = *drawing.document;
   document.deselectAll();
-  for (ArtId id = 1; id <= document.artSlots(); ++id) {
-    const Art* art = document.art(id);
-    for (const std::string& name : names) {
-      if (art != nullptr && art->name == name) document.setSelected(id, true);
-    }
-  }
+  for (const std::string& name : names) document.setSelected(artNamed(document, name), true);
 }
 
 void RefusalWorld::setOptions(std::int32_t shape, std::int32_t action, double size, double weight) {

@@ -11,6 +11,7 @@
 
 #include "AnnotationCanvas.h"
 #include "PanelDesk.h"
+#include "Sanitized.h"
 #include "ScratchFolder.h"
 #include "ToolMessages.h"
 #include "World.h"
@@ -19,14 +20,9 @@ class QListWidget;
 
 namespace host {
 
-// Every call is refused, but where each run takes many times as long.
-#ifdef __has_feature
-#if __has_feature(address_sanitizer)
-#define CORVANE_SLOW_RUNS
-#endif
-#endif
-#ifdef CORVANE_SLOW_RUNS
-constexpr std::uint64_t kStride = 11;
+// Every so many calls one is refused.
+#ifdef CORVANE_ADDRESS_SANITIZER
+constexpr std::uint64_t kStride = 5;
 #else
 constexpr std::uint64_t kStride = 1;
 #endif
@@ -64,7 +60,7 @@ class RefusalWorld : public QObject, public AnnotationCanvas {
   std::vector<std::string> said() const;  // all alerts so far
   QListWidget* paletteRows();             // null if there is no palette
   std::string customFile() const { return scratch.read(kCustomFile); }
-  void writeCustomFile(const std::string& text) const { scratch.write(kCustomFile, text); }
+  void writeCustomFile() const;  // one line type, "Mine"
 
   // But for the one that is acquired once a process, when it is first wanted.
   std::int32_t heldSuites() const { return host.holds() - host.holds("AS User Interaction Suite"); }

@@ -75,12 +75,5 @@ TEST(WindowCommand, ScreenshotTellsWhatFailedAndStoresNothing) {
   EXPECT_TRUE(scratch.has("b.png")) << "the window works without the plug-in";
 }
 
-TEST(WindowCommand, AlertsGoToStandardErrorWithTheirKind) {
-  const ScratchFolder scratch;
-  const ProcessResult run = runHost({"marks", kPoster, "-o", scratch.file("a.svg")});
-  EXPECT_EQ(run.code, 3);
-  EXPECT_THAT(run.err, testing::ContainsRegex("^(message|error): "));
-}
-
 }  // namespace
 }  // namespace host

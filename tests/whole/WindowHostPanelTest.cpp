@@ -88,16 +88,7 @@ class WindowHostPanelTest : public WindowTest {
     ADD_FAILURE() << "no command " << command;
   }
 
-  LayerId layer(const std::string& title) {
-    for (const LayerId id : world.document().state().layers) {
-      if (world.document().layer(id)->title == title) return id;
-    }
-    ADD_FAILURE() << "no layer " << title;
-    return 0;
-  }
-  ArtId artOf(const std::string& title) {
-    return world.document().art(world.document().layer(layer(title))->root)->firstChild;
-  }
+  ArtId artOf(const std::string& title) { return artOn(world.document(), title).back(); }
   // From the top down: "-" is hidden, "#" is locked, "*" is the current one, "." has selected art.
   std::vector<std::string> layers() {
     std::vector<std::string> texts;
@@ -260,7 +251,7 @@ TEST_F(WindowHostPanelTest, ComeBackAsTheyWereAndLeaveRoomForTheDrawing) {
   EXPECT_TRUE(dock("Layers").isVisible());
   EXPECT_FALSE(list("Layers").isVisible());
   EXPECT_TRUE(list("Artboards").isVisible());
-  EXPECT_THAT(world.menuTree(), HasSubstr("  Layers [x]\n  Swatches\n  Artboards [x]\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr(", Layers [x], Swatches, Artboards [x], "));
 }
 
 }  // namespace

@@ -111,7 +111,7 @@ TEST_F(WindowPanelTest, IsShownAndHiddenByThePluginTheMenuAndItsButton) {
   QCoreApplication::processEvents();
   EXPECT_TRUE(viewOf(panel).isVisible());
   EXPECT_EQ(window.dockWidgetArea(&dock()), Qt::RightDockWidgetArea);
-  EXPECT_THAT(world.menuTree(), HasSubstr("  Line & Types [x]\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr(", Line & Types [x]"));
 
   takeTold();
   world.choose({"Window", "Line & Types"});

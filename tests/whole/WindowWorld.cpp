@@ -4,7 +4,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QtTest/QTest>
 #include <algorithm>
 #include <cstdlib>
@@ -27,18 +29,17 @@ void waitUntilShown(QMenu& menu) {
   if (!QTest::qWaitFor([&] { return menu.isVisible(); })) ADD_FAILURE() << "a menu did not open";
 }
 
-void appendMenu(const QMenu& menu, const std::string& indent, std::string& text) {
+std::string entriesOf(const QMenu& menu) {
+  std::string text;
   for (const QAction* action : menu.actions()) {
-    if (action->isSeparator()) {
-      if (action != menu.actions().front()) text += indent + "---\n";
-      continue;
-    }
-    text += indent + shownText(action->text());
+    if (action->isSeparator() && action == menu.actions().front()) continue;
+    if (!text.empty()) text += ", ";
+    text += action->isSeparator() ? "---" : shownText(action->text());
     if (action->isChecked()) text += " [x]";
-    if (!action->isEnabled()) text += " (off)";
-    text += "\n";
-    if (action->menu() != nullptr) appendMenu(*action->menu(), indent + "  ", text);
+    if (!action->isEnabled() && !action->isSeparator()) text += " (off)";
+    if (action->menu() != nullptr) text += " {" + entriesOf(*action->menu()) + "}";
   }
+  return text;
 }
 
 }  // namespace
@@ -167,18 +168,20 @@ void WindowWorld::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
   QTest::keyClick(&*window, key, modifiers);
 }
 
-bool WindowWorld::hasLayer(const std::string& title) {
-  const std::vector<LayerId>& layers = document().state().layers;
-  return std::any_of(layers.begin(), layers.end(),
-                     [&](LayerId id) { return document().layer(id)->title == title; });
+QWidget& WindowWorld::view() {
+  return *window->findChild<QTabWidget*>()->currentWidget()->focusProxy();
+}
+
+void WindowWorld::movePointer(const QPoint& to, Qt::MouseButtons held, Qt::KeyboardModifiers modifiers) {
+  QMouseEvent event(QEvent::MouseMove, to, Qt::NoButton, held, modifiers);
+  QApplication::sendEvent(&view(), &event);
 }
 
 std::string WindowWorld::menuTree() {
   std::string text;
   for (const QAction* action : window->menuBar()->actions()) {
     if (!action->isVisible()) continue;
-    text += shownText(action->text()) + "\n";
-    appendMenu(*action->menu(), "  ", text);
+    text += shownText(action->text()) + ": " + entriesOf(*action->menu()) + "\n";
   }
   return text;
 }

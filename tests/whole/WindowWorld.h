@@ -66,11 +66,13 @@ class WindowWorld {
   void addMarks();  // through the menu, accepting the options and answering what the plug-in has to say
   void activate();  // no window manager does it here when a box has closed
   void press(Qt::Key key, Qt::KeyboardModifiers modifiers);
+  QWidget& view();  // of the current drawing
+  void movePointer(const QPoint& to, Qt::MouseButtons held = {}, Qt::KeyboardModifiers modifiers = {});
   Document& document() { return *host.currentDocument(); }
-  bool hasLayer(const std::string& title);
+  bool hasLayer(const std::string& title) { return layerTitled(document(), title) != 0; }
 
-  // Of the bar from left to right: a line each, indented; "---" is a separator, "[x]" is checked, "(off)"
-  // is disabled.
+  // Of the bar from left to right, a line each: "---" is a separator, "[x]" is checked, "(off)" is disabled,
+  // and what is in a menu of a menu stands in braces.
   std::string menuTree();
 
   Host host;

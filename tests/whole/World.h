@@ -51,15 +51,46 @@ inline std::string squareOnPage(int scale = 1) {
          "</svg>\n";
 }
 
+// Two paths, the lower one filled, and a text; a reserved layer that is not on top.
+inline std::string pathsAndText(int scale = 1) {
+  return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:ch=\"urn:x-corvane-host:drawing:1\" "
+         "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" ch:scale=\"" +
+         std::to_string(scale) +
+         "\" width=\"400pt\" height=\"400pt\" viewBox=\"0 0 400 400\">\n"
+         "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Lumenfold\">"
+         "<rect x=\"150\" y=\"150\" width=\"9\" height=\"9\"/></g>\n"
+         "  <g inkscape:groupmode=\"layer\" inkscape:label=\"Art\">\n"
+         "    <rect inkscape:label=\"low\" x=\"120\" y=\"120\" width=\"90\" height=\"90\" fill=\"#00f\"/>\n"
+         "    <path inkscape:label=\"high\" d=\"M 200,120 H 300\" stroke=\"#000\"/>\n"
+         "    <text inkscape:label=\"text\" x=\"120\" y=\"300\">Cut here</text>\n"
+         "  </g>\n"
+         "</svg>\n";
+}
+
+// The topmost one of that title; 0 if there is none.
+inline LayerId layerTitled(const Document& document, const std::string& title) {
+  for (const LayerId id : document.state().layers) {
+    if (document.layer(id)->title == title) return id;
+  }
+  return 0;
+}
+
+// 0 if there is none of that name.
+inline ArtId artNamed(const Document& document, const std::string& name) {
+  for (ArtId id = 1; id <= document.artSlots(); ++id) {
+    const Art* art = document.art(id);
+    if (art != nullptr && art->name == name) return id;
+  }
+  return 0;
+}
+
 // Of the topmost layer with that title, from the bottom up; nothing if there is no such layer.
 inline std::vector<ArtId> artOn(const Document& document, const std::string& title) {
   std::vector<ArtId> found;
-  for (const LayerId id : document.state().layers) {
-    if (document.layer(id)->title != title) continue;
-    ArtId art = document.art(document.layer(id)->root)->lastChild;
-    for (; art != 0; art = document.art(art)->above) found.push_back(art);
-    break;
-  }
+  const LayerId layer = layerTitled(document, title);
+  if (layer == 0) return found;
+  ArtId art = document.art(document.layer(layer)->root)->lastChild;
+  for (; art != 0; art = document.art(art)->above) found.push_back(art);
   return found;
 }
 
