@@ -10,8 +10,7 @@
 #include "AIColorConversion.h"
 #include "AICustomColor.h"
 #include "Document.h"
-#include "HMX_AISuiteManager.h"
-#include "Host.h"
+#include "HeldSuites.h"
 
 class PaintFixture : public testing::Test {
  protected:
@@ -20,16 +19,7 @@ class PaintFixture : public testing::Test {
     for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_DATA_DIRS"}) setenv(name, "/nonexistent", 1);
   }
 
-  PaintFixture() {
-    host.documents().open(document, "drawing");
-    HMX_AISuiteManager& suites = HMX_AISuiteManager::Instance();
-    suites.Reset();
-    suites.SetBasicSuite(host.basic());
-    suites.Request(kAIColorConversionSuite);
-    suites.Request(kAICustomColorSuite);
-    EXPECT_EQ(suites.Acquire(), kNoErr);
-  }
-  ~PaintFixture() override { HMX_AISuiteManager::Instance().Release(); }
+  PaintFixture() { host.documents().open(document, "drawing"); }
 
   // A paint of a custom colour that the document has.
   AIColor CustomPaint(const AICustomColor& definition, AIReal tint = 0) {
@@ -68,5 +58,6 @@ class PaintFixture : public testing::Test {
   std::shared_ptr<host::Document> document = std::make_shared<host::Document>();
 
  private:
+  const HeldSuites suites{host, {kAIColorConversionSuite, kAICustomColorSuite}};
   int count = 0;
 };

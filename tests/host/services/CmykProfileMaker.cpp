@@ -2,66 +2,38 @@
 
 #include <lcms2.h>
 
+#include <algorithm>
 #include <cmath>
-#include <memory>
-
-#include "ColourSample.h"
-#include "PlainInk.h"
 
 namespace host {
 namespace {
 
-using Profile = std::unique_ptr<void, void (*)(cmsHPROFILE)>;
-using Transform = std::unique_ptr<void, void (*)(cmsHTRANSFORM)>;
-
-Profile owned(cmsHPROFILE profile) {
-  return {profile, [](cmsHPROFILE p) { cmsCloseProfile(p); }};
-}
-
-// Between sRGB and Lab.
-struct Colours {
-  Profile rgb = owned(cmsCreate_sRGBProfile());
-  Profile lab = owned(cmsCreateLab4Profile(nullptr));
-  Transform toLab = make(rgb, TYPE_RGB_DBL, lab, TYPE_Lab_DBL);
-  Transform toRgb = make(lab, TYPE_Lab_DBL, rgb, TYPE_RGB_DBL);
-
-  static Transform make(const Profile& from, cmsUInt32Number fromFormat, const Profile& to,
-                        cmsUInt32Number toFormat) {
-    return {cmsCreateTransform(from.get(), fromFormat, to.get(), toFormat, INTENT_RELATIVE_COLORIMETRIC,
-                               cmsFLAGS_NOCACHE),
-            cmsDeleteTransform};
-  }
-};
-
-// Moves the components away from their mean, or towards it for a factor below 1.
-void spread(ColourSample& rgb, double factor) {
-  const double mean = (rgb[0] + rgb[1] + rgb[2]) / 3;
-  for (std::size_t i = 0; i < 3; ++i) rgb[i] = mean + (rgb[i] - mean) * factor;
-}
+constexpr double kLightnessOfInk = 80.0 / 3;  // that each of three inks takes away from the white of paper
+constexpr double kChroma = 50;
 
 cmsUInt16Number word(double value) {
-  return static_cast<cmsUInt16Number>(std::lround(value * 65535));
+  return static_cast<cmsUInt16Number>(std::lround(std::clamp(value, 0.0, 1.0) * 65535));
 }
 
-cmsInt32Number inkToLab(const cmsUInt16Number in[], cmsUInt16Number out[], void* colours) {
-  ColourSample rgb = rgbOfInk({in[0] / 65535.0, in[1] / 65535.0, in[2] / 65535.0, in[3] / 65535.0});
-  for (double& component : rgb) component = kDarkest + (1 - kDarkest) * component;
-  spread(rgb, 1 - kDullness);
-  cmsCIELab lab;
-  cmsDoTransform(static_cast<Colours*>(colours)->toLab.get(), rgb.data(), &lab, 1);
+// Magenta stands against cyan and yellow against both; black fades them all.
+cmsInt32Number inkToLab(const cmsUInt16Number in[], cmsUInt16Number out[], void*) {
+  const double c = in[0] / 65535.0, m = in[1] / 65535.0, y = in[2] / 65535.0, rest = 1 - in[3] / 65535.0;
+  const cmsCIELab lab{20 + rest * (80 - kLightnessOfInk * (c + m + y)), rest * kChroma * (m - c),
+                      rest * kChroma * (y - (c + m) / 2)};
   cmsFloat2LabEncodedV2(out, &lab);
   return 1;
 }
 
-cmsInt32Number labToInk(const cmsUInt16Number in[], cmsUInt16Number out[], void* colours) {
+// The other way without black.
+cmsInt32Number labToInk(const cmsUInt16Number in[], cmsUInt16Number out[], void*) {
   cmsCIELab lab;
   cmsLabEncoded2FloatV2(&lab, in);
-  ColourSample rgb{};
-  cmsDoTransform(static_cast<Colours*>(colours)->toRgb.get(), &lab, rgb.data(), 1);
-  spread(rgb, 1 / (1 - kDullness));
-  for (double& component : rgb) component = (component - kDarkest) / (1 - kDarkest);
-  const ColourSample ink = inkOfRgb(withinRange(ColourSpace::RGB, rgb));
-  for (std::size_t i = 0; i < 4; ++i) out[i] = word(ink[i]);
+  const double all = (100 - lab.L) / kLightnessOfInk;
+  const double both = (all - lab.b / kChroma) / 1.5;  // cyan and magenta
+  out[0] = word((both - lab.a / kChroma) / 2);
+  out[1] = word((both + lab.a / kChroma) / 2);
+  out[2] = word(all - both);
+  out[3] = 0;
   return 1;
 }
 
@@ -73,35 +45,28 @@ void writeTable(cmsHPROFILE profile, cmsTagSignature tag, cmsStage* table) {
   cmsPipelineFree(pipeline);
 }
 
-void writeTables(cmsHPROFILE profile, ProfileTables tables) {
-  Colours colours;
-  cmsStage* toColours = cmsStageAllocCLut16bit(nullptr, 9, 4, 3, nullptr);
-  cmsStageSampleCLut16bit(toColours, inkToLab, &colours, 0);
-  writeTable(profile, cmsSigAToB0Tag, toColours);
-  if (tables == ProfileTables::OnlyToColours) return;
-  cmsStage* toInks = cmsStageAllocCLut16bit(nullptr, 33, 3, 4, nullptr);
-  cmsStageSampleCLut16bit(toInks, labToInk, &colours, 0);
-  writeTable(profile, cmsSigBToA0Tag, toInks);
-}
+}  // namespace
 
-std::string bytesOf(cmsHPROFILE profile) {
+std::string makeCmykProfile(ProfileTables tables) {
+  cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+  cmsSetProfileVersion(profile, 2.4);
+  cmsSetDeviceClass(profile, cmsSigOutputClass);
+  cmsSetColorSpace(profile, cmsSigCmykData);
+  cmsSetPCS(profile, cmsSigLabData);
+  cmsStage* toColours = cmsStageAllocCLut16bit(nullptr, 9, 4, 3, nullptr);
+  cmsStageSampleCLut16bit(toColours, inkToLab, nullptr, 0);
+  writeTable(profile, cmsSigAToB0Tag, toColours);
+  if (tables == ProfileTables::Both) {
+    cmsStage* toInks = cmsStageAllocCLut16bit(nullptr, 33, 3, 4, nullptr);
+    cmsStageSampleCLut16bit(toInks, labToInk, nullptr, 0);
+    writeTable(profile, cmsSigBToA0Tag, toInks);
+  }
   cmsUInt32Number size = 0;
   cmsSaveProfileToMem(profile, nullptr, &size);
   std::string bytes(size, '\0');
   cmsSaveProfileToMem(profile, bytes.data(), &size);
+  cmsCloseProfile(profile);
   return bytes;
-}
-
-}  // namespace
-
-std::string makeCmykProfile(ProfileTables tables) {
-  const Profile profile = owned(cmsCreateProfilePlaceholder(nullptr));
-  cmsSetProfileVersion(profile.get(), 2.4);
-  cmsSetDeviceClass(profile.get(), cmsSigOutputClass);
-  cmsSetColorSpace(profile.get(), cmsSigCmykData);
-  cmsSetPCS(profile.get(), cmsSigLabData);
-  writeTables(profile.get(), tables);
-  return bytesOf(profile.get());
 }
 
 }  // namespace host

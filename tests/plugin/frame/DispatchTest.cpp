@@ -35,9 +35,10 @@ struct LoggingMenu : HMX_AIMenu {
       : HMX_AIMenu(owner, "no such group", "-", 0), log(list) {
     item = HandleOf<AIMenuItemHandle>(handle);
   }
-  AIErr Go(const AIMenuMessage&) override { return log.Add("menu goes"); }
+  AIErr Go(const AIMenuMessage&) override { return inner ? inner() : log.Add("menu goes"); }
   AIErr Update(const AIMenuMessage&) override { return log.Add("menu updates"); }
   Log& log;
+  std::function<AIErr()> inner;
 };
 
 struct LoggingNotifier : HMX_AINotifier {
@@ -148,12 +149,7 @@ TEST_F(Dispatch, AnnotatorsAnswerLast) {
 }
 
 TEST_F(Dispatch, MessagesNestAndAnExceptionClosesTheirLevel) {
-  struct NestingMenu : LoggingMenu {
-    using LoggingMenu::LoggingMenu;
-    AIErr Go(const AIMenuMessage&) override { return inner(); }
-    std::function<AIErr()> inner;
-  };
-  auto* menu = plugin->MakeMenu<NestingMenu>(plugin.get(), std::size_t{106}, log);
+  auto* menu = plugin->MakeMenu<LoggingMenu>(plugin.get(), 106, log);
   menu->inner = [this] {
     Notify(102);
     return plugin->Nesting();

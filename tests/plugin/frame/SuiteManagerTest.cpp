@@ -4,10 +4,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "AILayer.h"
 #include "AIMenu.h"
 #include "AIUnicodeString.h"
-#include "FakeBasicSuite.h"
+#include "SPBasic.h"
 #include "SuiteTable.h"
 
 namespace {
@@ -15,9 +20,37 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-void ClearSuiteTable() {
-  const HMX_AISuiteManager made;
-}
+// Hands out a table for any name, keeps a log, and refuses what it is told to.
+struct FakeBasicSuite {
+  // "+ name version" for an acquisition, "- name version" for a release.
+  static inline std::vector<std::string> log;
+  static inline std::set<std::string> refused;
+  static inline SPErr releaseResult = kSPNoError;
+
+  static void Clear() {
+    log.clear();
+    refused.clear();
+    releaseResult = kSPNoError;
+  }
+  static std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
+
+  static const SPBasicSuite* Table() {
+    static const SPBasicSuite table{Acquire, Release, nullptr, nullptr, nullptr};
+    return &table;
+  }
+
+ private:
+  static SPErr Acquire(const char* name, std::int32_t version, const void** suite) {
+    alignas(16) static const char content[16] = {};
+    log.push_back("+ " + std::string(name) + " " + std::to_string(version));
+    *suite = refused.count(name) != 0 ? nullptr : content;
+    return *suite == nullptr ? kSPSuiteNotFoundError : kSPNoError;
+  }
+  static SPErr Release(const char* name, std::int32_t version) {
+    log.push_back("- " + std::string(name) + " " + std::to_string(version));
+    return releaseResult;
+  }
+};
 
 class SuiteManager : public testing::Test {
  protected:
@@ -25,19 +58,19 @@ class SuiteManager : public testing::Test {
     FakeBasicSuite::Clear();
     manager.SetBasicSuite(FakeBasicSuite::Table());
   }
-  ~SuiteManager() override { ClearSuiteTable(); }  // for whoever comes next
+  ~SuiteManager() override { const HMX_AISuiteManager cleared; }  // the table, for whoever comes next
 
   HMX_AISuiteManager manager;
 };
 
-TEST(SuiteTable, EveryRowHasAPointerOfItsOwn) {
+TEST_F(SuiteManager, EveryRowHasAPointerOfItsOwn) {
   static const char addresses[kSuiteCount] = {};
   for (std::size_t i = 0; i < kSuiteCount; ++i) sSuiteTable[i].pointer.set(&addresses[i]);
   for (std::size_t i = 0; i < kSuiteCount; ++i) {
     EXPECT_EQ(sSuiteTable[i].pointer.get(), &addresses[i]) << sSuiteTable[i].name;
   }
   EXPECT_EQ(static_cast<const void*>(sSPBasic), &addresses[188]);
-  ClearSuiteTable();
+  const HMX_AISuiteManager made;
   for (const SuiteRow& row : sSuiteTable) EXPECT_EQ(row.pointer.get(), nullptr) << row.name;
 }
 

@@ -11,8 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "HMX_AISuiteManager.h"
-#include "Host.h"
+#include "HeldSuites.h"
 #include "LineTypeGroup.h"
 #include "ScratchFolder.h"
 
@@ -41,19 +40,9 @@ class LineTypeFiles : public testing::Test {
   LineTypeFiles() {
     setenv("LOCALE_PATH", scratch.file("resources").c_str(), 1);
     setenv("CORVANE_SHARED_DATA", scratch.file("shared").c_str(), 1);
-    HMX_AISuiteManager& suites = HMX_AISuiteManager::Instance();
-    suites.Reset();
-    suites.SetBasicSuite(host.basic());
-    for (const char* suite : {"AI Preference Suite", "AI Custom Color Suite", "AI Color Conversion Suite",
-                              "AI Unicode String Suite", "AI User Suite", "SP Basic Suite",
-                              "SP Plug-ins Suite", "AI Data Filter Suite", "AI File Path Suite"}) {
-      suites.Request(suite);
-    }
-    EXPECT_EQ(suites.Acquire(), kNoErr);
     QObject::connect(&user, &QTimer::timeout, [this] { CloseMessage(); });
     user.start(1);
   }
-  ~LineTypeFiles() override { HMX_AISuiteManager::Instance().Release(); }
 
   std::string WriteStandard(const std::string& text) const {
     return scratch.write("resources/CurveLayerDefinition.json", text);
@@ -75,6 +64,10 @@ class LineTypeFiles : public testing::Test {
   char* arguments[2] = {programName, nullptr};
   const QApplication application{argumentCount, arguments};
   host::Host host;
+  const HeldSuites suites{
+      host,
+      {"AI Preference Suite", "AI Custom Color Suite", "AI Color Conversion Suite", "AI Unicode String Suite",
+       "AI User Suite", "SP Basic Suite", "SP Plug-ins Suite", "AI Data Filter Suite", "AI File Path Suite"}};
   const ScratchFolder scratch;
   std::vector<std::string> messages;  // the texts of the critical messages that came up
 

@@ -4,8 +4,11 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <memory>
 
-#include "LineTypeDocument.h"
+#include "HeldSuites.h"
+#include "LineType.h"
+#include "LineTypeOfArt.h"
 #include "LineTypeSwatch.h"
 #include "ReservedLayers.h"
 #include "SelectedLineTypes.h"
@@ -18,7 +21,74 @@ using testing::ElementsAre;
 using testing::UnorderedElementsAre;
 using Titles = std::vector<std::string>;
 
-class LineTypeLayers : public LineTypeDocument {};
+class LineTypeLayers : public testing::Test {
+ protected:
+  LineTypeLayers() {
+    document.editState().artboards = {{{0, 300, 400, 0}, "1", 0}};
+    host.documents().open(shared, "drawing");
+  }
+
+  // The first on top.
+  void addLayers(const std::vector<std::string>& titles) {
+    for (const std::string& title : titles) {
+      document.editLayer(document.insertLayer(0, kPlaceBelowAll)).title = title;
+    }
+  }
+  std::vector<std::string> titles() const {
+    std::vector<std::string> found;
+    for (const host::LayerId id : document.state().layers) found.push_back(document.layer(id)->title);
+    return found;
+  }
+  host::ArtId root(std::size_t layer) const { return document.layer(document.state().layers[layer])->root; }
+  host::ArtId add(AIArtType type, host::ArtId group) {
+    return document.newArt(type, kPlaceInsideOnTop, group).value();
+  }
+  AIArtHandle handle(host::ArtId id) const {
+    return host::makeHandle<AIArtHandle>(host::HandleKind::Art, document.serial(), id);
+  }
+  void select(const std::vector<host::ArtId>& art) {
+    for (const host::ArtId id : art) document.setSelected(id, true);
+  }
+
+  AICustomColorHandle color(const std::string& name, AICustomColorTag kind = kCustomThreeColor,
+                            AICustomColorFlags flag = kCustomSpotColor) {
+    host::CustomColorId id = document.customColorByName(name);
+    if (id == 0) id = document.addCustomColor(name, {kind, {}, flag});
+    return host::makeHandle<AICustomColorHandle>(host::HandleKind::CustomColor, document.serial(), id);
+  }
+  // As the line type of this colour has it.
+  AIPathStyle strokeOf(AICustomColorHandle custom) const {
+    AIPathStyle style{};
+    AIColor paint{};
+    paint.kind = kCustomColor;
+    paint.c.c = {custom, 0};
+    ApplyLineTypeStroke(paint, style);
+    return style;
+  }
+  void paint(host::ArtId art, const AIPathStyle& style) {
+    document.setStyle(art, std::make_shared<const AIPathStyle>(style));
+  }
+  static LineType spot(const std::string& name) {
+    LineType type;
+    type.name = ai::UnicodeString(name);
+    type.isCustomDataModel = true;
+    type.customColor = AICustomColor();
+    type.customColor.kind = kCustomThreeColor;
+    type.customColor.c.rgb = {1, 0, 0};
+    type.customColor.flag = kCustomSpotColor;
+    return type;
+  }
+
+  host::Host host;
+  const std::shared_ptr<host::Document> shared = std::make_shared<host::Document>();
+  host::Document& document = *shared;
+
+ private:
+  const HeldSuites suites{host,
+                          {"AI Art Suite", "AI Custom Color Suite", "AI Document Suite", "AI Layer Suite",
+                           "AI Matching Art Suite", "AI Path Style Suite", "AI Swatch List Suite",
+                           "AI Swatch Group Suite", "AI Unicode String Suite"}};
+};
 
 TEST_F(LineTypeLayers, NewOnesStandUnderTheReservedBlockInTheirOrder) {
   struct Row {
@@ -145,17 +215,33 @@ TEST_F(LineTypeLayers, TheSelectionIsSorted) {
   EXPECT_NE(part, 0U);
 }
 
-TEST_F(LineTypeLayers, AProcessSwatchOfTheNameDoesNotCountAndIsMadeOnce) {
-  addLayers({"Layer 1"});
-  LineType process;
-  process.name = ai::UnicodeString("Cut");
-  process.color.kind = kThreeColor;
-  for (int i = 0; i < 2; ++i) EXPECT_NE(EnsureLineTypeSwatch(process, "Cut Line Types"), nullptr);
-  EXPECT_EQ(document.state().swatches.size(), 1U);
-  LineType custom = spot("Cut");
+TEST_F(LineTypeLayers, ASwatchOfTheNameIsMadeOnceInItsGroupAndWinsOverDefinitions) {
+  LineType type = spot("Cut");
+  const AISwatchRef swatch = EnsureLineTypeSwatch(type, "Cut Line Types");
+  ASSERT_NE(swatch, nullptr);
+  EXPECT_FALSE(type.isCustomDataModel);
+  EXPECT_EQ(type.color.kind, kCustomColor);
+  EXPECT_EQ(type.color.c.c.tint, 0);
+  EXPECT_EQ(document.customColor(document.customColorByName("Cut"))->definition.c.rgb.red, 1);
+  LineType other;
+  other.name = ai::UnicodeString("Cut");
+  other.color.kind = kThreeColor;
+  EXPECT_EQ(EnsureLineTypeSwatch(other, "no group is made for it"), swatch);
+  EXPECT_EQ(other.color.kind, kCustomColor);
+  EXPECT_EQ(other.color.c.c.color, type.color.c.c.color);
+  // A process swatch of the name does not count.
+  for (const char* name : {"Process", "Process"}) {
+    LineType process;
+    process.name = ai::UnicodeString(name);
+    process.color.kind = kThreeColor;
+    EXPECT_NE(EnsureLineTypeSwatch(process, "Cut Line Types"), nullptr);
+    EXPECT_EQ(document.state().swatches.size(), 2U);
+  }
+  LineType custom = spot("Process");
   EXPECT_NE(EnsureLineTypeSwatch(custom, "Cut Line Types"), nullptr);
-  EXPECT_EQ(document.state().swatches.size(), 2U);
-  EXPECT_NE(document.customColorByName("Cut"), 0U);
+  EXPECT_EQ(document.state().swatches.size(), 3U);
+  ASSERT_EQ(document.state().swatchGroups.size(), 1U);
+  EXPECT_EQ(document.swatchGroup(document.state().swatchGroups[0])->name, "Cut Line Types");
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "Drawing.h"
 
-#include <gtest/gtest.h>
-
 #include "AIArtboard.h"
 #include "AIDocument.h"
 #include "AIDocumentView.h"
@@ -13,7 +11,6 @@
 #include "AIRealMath.h"
 #include "AIUnicodeString.h"
 #include "Bounds.h"
-#include "HMX_AISuiteManager.h"
 
 namespace Vandrell::Corvane {
 namespace {
@@ -51,29 +48,15 @@ std::shared_ptr<const AIPathStyle> BlackFill(bool evenOdd) {
 
 }  // namespace
 
-Drawing::Drawing(const AIRealRect& artboard, double scale) {
+Drawing::Drawing(const AIRealRect& artboard, double scale)
+    : suites_(host, {kAIArtboardSuite, kAIArtSuite, kAIDocumentSuite, kAIDocumentViewSuite, kAIHitTestSuite,
+                     kAILayerSuite, kAIPathSuite, kAIPathStyleSuite, kAIPreferenceSuite, kAIRealMathSuite,
+                     kAIUnicodeStringSuite}) {
   document_->setScale(scale);
   document_->editState().artboards = {{artboard, "1", 0}};
   addLayer("Artwork");
   document_->startRecording();
   host.documents().open(document_, "drawing");
-  holdSuites();
-}
-
-Drawing::~Drawing() {
-  HMX_AISuiteManager::Instance().Release();
-}
-
-void Drawing::holdSuites() {
-  HMX_AISuiteManager& suites = HMX_AISuiteManager::Instance();
-  suites.Reset();
-  suites.SetBasicSuite(host.basic());
-  for (const char* name :
-       {kAIArtboardSuite, kAIArtSuite, kAIDocumentSuite, kAIDocumentViewSuite, kAIHitTestSuite, kAILayerSuite,
-        kAIPathSuite, kAIPathStyleSuite, kAIPreferenceSuite, kAIRealMathSuite, kAIUnicodeStringSuite}) {
-    suites.Request(name);
-  }
-  EXPECT_EQ(suites.Acquire(), kNoErr);
 }
 
 host::ArtId Drawing::addPath(host::PathGeometry path) {

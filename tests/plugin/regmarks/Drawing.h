@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Document.h"
-#include "Host.h"
+#include "HeldSuites.h"
 #include "PositionList.h"
 
 namespace Vandrell::Corvane {
@@ -15,9 +15,6 @@ class Drawing {
  public:
   // One artboard and one layer, "Artwork", without art.
   explicit Drawing(const AIRealRect& artboard = {0, 792, 612, 0}, double scale = 1.0);
-  Drawing(const Drawing&) = delete;
-  Drawing& operator=(const Drawing&) = delete;
-  ~Drawing();
 
   host::Host host;
   host::Document& document() { return *document_; }
@@ -38,9 +35,9 @@ class Drawing {
 
  private:
   host::ArtId addPath(host::PathGeometry path);
-  void holdSuites();
 
   std::shared_ptr<host::Document> document_ = std::make_shared<host::Document>();
+  const HeldSuites suites_;
 };
 
 }  // namespace Vandrell::Corvane

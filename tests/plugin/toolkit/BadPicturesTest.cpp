@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "LoadPixmap.h"
-#include "Pictures.h"
 #include "ToolkitTest.h"
 
 namespace {

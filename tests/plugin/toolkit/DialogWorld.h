@@ -52,7 +52,8 @@ class TestDialog : public qRVADM::RVADM_ModalDialog {
   }
 };
 
-// Every test leaves the host as it found it: no dialog counted, no context open.
+// Every test leaves the host as it found it: no dialog counted, no context open. A double click may take as
+// long as the test says.
 class DialogTest : public ToolkitTest {
  protected:
   DialogTest() { plugin.RequestSuite("AI Context Suite"); }
@@ -60,6 +61,7 @@ class DialogTest : public ToolkitTest {
     QCoreApplication::processEvents();
     EXPECT_EQ(RVADMQtManager::QtManager::DialogCount(), 0);
     EXPECT_EQ(host.contexts().depth(), 0U);
+    QApplication::setDoubleClickInterval(usualInterval);
   }
 
   // The mouse goes the way of the system's events: to whatever lies at that point of the dialog.
@@ -79,4 +81,7 @@ class DialogTest : public ToolkitTest {
     Press(dialog, point);
     Release(dialog, point);
   }
+
+ private:
+  const int usualInterval = QApplication::doubleClickInterval();
 };

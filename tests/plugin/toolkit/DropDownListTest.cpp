@@ -3,7 +3,6 @@
 #include <QWheelEvent>
 
 #include "DialogWorld.h"
-#include "Pictures.h"
 #include "RVADM_DropDownList.h"
 
 namespace qRVADM {
@@ -17,14 +16,12 @@ class DropDownListTest : public DialogTest {
     list->SetBounds({10, 10, 130, 34});
     dialog.Open();
   }
-  ~DropDownListTest() override { QApplication::setDoubleClickInterval(usualInterval); }
   QWidget& Popup() const { return *list->view()->parentWidget(); }
   void ClickRow(int row) const {
     QTest::mouseClick(list->view()->viewport(), Qt::LeftButton, {},
                       list->view()->visualRect(list->model()->index(row, 0)).center());
   }
 
-  const int usualInterval = QApplication::doubleClickInterval();
   TestDialog dialog;
   RVADM_DropDownList* list = new RVADM_DropDownList(&dialog);
 };
@@ -63,8 +60,8 @@ TEST_F(DropDownListTest, WheelGoesToWhatLiesBehind) {
 }
 
 TEST_F(DropDownListTest, PicturesFollowTheTheme) {
-  bundle.Write("png/p17310.png", PNGPicture(16, 16, Qt::red));
-  bundle.Write("png/p18310.png", PNGPicture(16, 16, Qt::blue));
+  bundle.WritePicture(17310, Qt::red);
+  bundle.WritePicture(18310, Qt::blue);
   list->GetEntry(0)->SetPicture(16310);
   list->GetEntry(1)->SetPicture(-1);
   const auto colorOf = [this](int row) { return list->itemIcon(row).pixmap(16).toImage().pixelColor(8, 8); };

@@ -46,10 +46,8 @@ AIColor Paint(AIColorTag kind, AIReal first = 0, AIReal second = 0, AIReal third
 class FillStrokeItemTest : public DialogTest {
  protected:
   FillStrokeItemTest() {
-    for (const char* suite : {"AI Color Conversion Suite", "AI Custom Color Suite", "AI Paint Style Suite",
-                              "AI Swatch List Suite", "AI User Suite", "AI Unicode String Suite"}) {
-      EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
-    }
+    Request({"AI Color Conversion Suite", "AI Custom Color Suite", "AI Paint Style Suite",
+             "AI Swatch List Suite", "AI User Suite", "AI Unicode String Suite"});
     host.documents().open(document, "drawing");
     document->addSwatch(document->addSwatchGroup(-1), Paint(kThreeColor), "first");
     dialog.Open();

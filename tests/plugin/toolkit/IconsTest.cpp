@@ -1,7 +1,6 @@
 #include "Icons.h"
 
 #include "BrightnessMode.h"
-#include "Pictures.h"
 #include "ToolkitTest.h"
 
 namespace {
@@ -13,19 +12,16 @@ struct FineDisplay {
 
 class IconsTest : FineDisplay, public ToolkitTest {
  protected:
-  static void Write(const std::string& name, const QColor& color, int side = 16) {
-    bundle.Write("png/p" + name + ".png", PNGPicture(side, side, color));
-  }
   static QColor ColorOf(int id) {
     return qRVADM::GetIcon(id).pixmap(QSize(16, 16)).toImage().pixelColor(4, 4);
   }
 };
 
 TEST_F(IconsTest, HaveBothResolutionsAndNeedTheSingleOne) {
-  Write("17710", Qt::green);
-  Write("17710@2x", Qt::blue, 32);
+  bundle.WritePicture(17710, Qt::green);
+  bundle.WritePicture(17710, Qt::blue, 32, 32, true);
   EXPECT_EQ(qRVADM::GetIcon(16710).availableSizes(), (QList<QSize>{{16, 16}, {32, 32}}));
-  Write("17711@2x", Qt::blue, 32);
+  bundle.WritePicture(17711, Qt::blue, 32, 32, true);
   QIcon icon;
   EXPECT_FALSE(qRVADM::AddIconPixmaps(icon, 16711, qRVADM::kLightBrightness, QIcon::Normal, QIcon::Off));
   EXPECT_FALSE(icon.isNull()) << "what there is is added all the same";
@@ -35,7 +31,7 @@ TEST_F(IconsTest, HaveBothResolutionsAndNeedTheSingleOne) {
 // 16041 is one that the manager library has for all plug-ins; it has no 16042.
 TEST_F(IconsTest, AreSharedPicturesBeforeThePluginsOwn) {
   for (const int id : {16041, 16042}) {
-    Write(std::to_string(id + 1000), QColor(1, 2, 3));
+    bundle.WritePicture(id + 1000, QColor(1, 2, 3));
     EXPECT_EQ(ColorOf(id) == QColor(1, 2, 3), id == 16042) << id;
   }
 }

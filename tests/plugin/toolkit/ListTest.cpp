@@ -50,7 +50,6 @@ struct ListDialog : TestDialog {
 class ListTest : public DialogTest {
  protected:
   ListTest() { QApplication::setDoubleClickInterval(kDoubleClickMilliseconds); }
-  ~ListTest() override { QApplication::setDoubleClickInterval(usualInterval); }
 
   // Six rows, "row 0" to "row 5", 20 pixels high each.
   RVADM_ListBox& Open(bool multi) {
@@ -95,7 +94,6 @@ class ListTest : public DialogTest {
   }
   static void WaitForDelay() { QTest::qWait(kDoubleClickMilliseconds + 100); }
 
-  const int usualInterval = QApplication::doubleClickInterval();
   std::unique_ptr<ListDialog> dialog;
   RVADM_ListBox* list = nullptr;
   std::vector<TestEntry*> rows;

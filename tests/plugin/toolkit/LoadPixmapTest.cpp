@@ -4,7 +4,6 @@
 #include <limits>
 #include <vector>
 
-#include "Pictures.h"
 #include "ToolkitTest.h"
 
 namespace {
@@ -21,12 +20,8 @@ QColor ColorOf(Version version) {
 
 class LoadPixmapTest : public ToolkitTest {
  protected:
-  static void WritePNG(int id, Version version, int width = 20, int height = 20) {
-    bundle.Write("png/p" + std::to_string(id + version % 4 * 1000) + (version < 4 ? ".png" : "@2x.png"),
-                 PNGPicture(width, height, ColorOf(version)));
-  }
-  static void WriteSVG(int id, const QColor& color = Qt::red) {
-    bundle.Write("svg/s" + std::to_string(id) + ".svg", SVGPicture("viewBox=\"0 0 40 40\"", color));
+  static void WritePNG(int id, Version version) {
+    bundle.WritePicture(id + version % 4 * 1000, ColorOf(version), 20, 20, version >= kPlain2x);
   }
 };
 
@@ -75,7 +70,7 @@ TEST_F(LoadPixmapTest, SVGIsDrawnInEveryRatioOnNothing) {
 
 TEST_F(LoadPixmapTest, NothingComesOfBadRatiosOrWithoutAPlugin) {
   WritePNG(16540, kLight);
-  WriteSVG(25550);
+  bundle.Write("svg/s25550.svg", SVGPicture("viewBox=\"0 0 40 40\""));
   constexpr double infinity = std::numeric_limits<double>::infinity();
   for (const double ratio : {0.0, -1.0, infinity, std::numeric_limits<double>::quiet_NaN()}) {
     EXPECT_TRUE(LoadPixmap(16540, 2, ratio).isNull()) << ratio;

@@ -4,7 +4,6 @@
 #include <QTimer>
 
 #include "DialogWorld.h"
-#include "Pictures.h"
 #include "RVADM_CriticalMessageDialog.h"
 
 namespace qRVADM {
@@ -24,13 +23,8 @@ class ThreeButtons : public RVADM_MessageDialog {
 class MessageDialogTest : public DialogTest {
  protected:
   MessageDialogTest() {
-    for (const char* suite :
-         {"SP Basic Suite", "SP Plug-ins Suite", "AI File Path Suite", "AI Unicode String Suite"}) {
-      plugin.RequestSuite(suite);
-    }
-    for (const int id : {16101, 16102}) {
-      bundle.Write("png/p" + std::to_string(id) + ".png", PNGPicture(32, 32, Qt::red));
-    }
+    Request({"SP Basic Suite", "SP Plug-ins Suite", "AI File Path Suite", "AI Unicode String Suite"});
+    for (const int id : {16101, 16102}) bundle.WritePicture(id, Qt::red, 32, 32);
   }
   // Looks at the next dialog and presses a key in it.
   void Answer(Qt::Key key, const std::function<void(QDialog&)>& look = nullptr) {

@@ -11,7 +11,7 @@ namespace {
 
 class ModalDialogTest : public DialogTest {
  protected:
-  ModalDialogTest() { plugin.RequestSuite("SP Basic Suite"); }  // by which dialogs ask whether they may
+  ModalDialogTest() { Request({"SP Basic Suite"}); }  // by which dialogs ask whether they may
 
   // Runs the dialog, and `act` once it is up.
   static int RunWith(TestDialog& dialog, const std::function<void()>& act) {
@@ -21,13 +21,12 @@ class ModalDialogTest : public DialogTest {
 };
 
 TEST_F(ModalDialogTest, EndsWithTheResultAndCommitsUnlessCancelled) {
-  struct Row {
+  const struct {
     const char* what;
     std::function<void(TestDialog&)> end;
     int result;
     std::vector<int> committed;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"OK", [](TestDialog& dialog) { dialog.EndDialog(1, false); }, 1, {1}},
       {"Cancel", [](TestDialog& dialog) { dialog.EndDialog(0, true); }, 0, {}},
       {"twice",
@@ -40,7 +39,7 @@ TEST_F(ModalDialogTest, EndsWithTheResultAndCommitsUnlessCancelled) {
       {"Escape", [](TestDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); }, 0, {}},
       {"close", [](TestDialog& dialog) { dialog.close(); }, 0, {}},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     TestDialog dialog;
     EXPECT_EQ(RunWith(dialog, [&] { row.end(dialog); }), row.result) << row.what;
     EXPECT_EQ(dialog.committed, row.committed) << row.what;
@@ -54,12 +53,11 @@ TEST_F(ModalDialogTest, EndsWithTheResultAndCommitsUnlessCancelled) {
 }
 
 TEST_F(ModalDialogTest, EscapeIsTheCancelButton) {
-  struct Row {
+  const struct {
     const char* what;
     std::function<void(TestDialog&, RVADM_Item*&)> handler;
     int result;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {"ends", [](TestDialog& dialog, RVADM_Item*&) { dialog.EndDialog(7, true); }, 7},
       {"does nothing", [](TestDialog&, RVADM_Item*&) {}, 0},
       {"deletes the button",
@@ -69,7 +67,7 @@ TEST_F(ModalDialogTest, EscapeIsTheCancelButton) {
        },
        0},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     TestDialog dialog;
     RVADM_Item* cancel = nullptr;
     dialog.create = [&] { dialog.SetCancelButton(cancel = new RVADM_TextPushButton(&dialog, "No")); };

@@ -22,11 +22,7 @@ constexpr ADMUnits kAllUnits[] = {
 
 class NumbersTest : public ToolkitTest {
  protected:
-  NumbersTest() {
-    for (const char* suite : {kAIUserSuite, kAIDocumentSuite, kAIPreferenceSuite}) {
-      EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
-    }
-  }
+  NumbersTest() { Request({kAIUserSuite, kAIDocumentSuite, kAIPreferenceSuite}); }
 };
 
 TEST_F(NumbersTest, DimensionsAreWrittenByTheirUnits) {

@@ -14,11 +14,7 @@ constexpr Qt::KeyboardModifiers kControl = Qt::ControlModifier, kShift = Qt::Shi
 
 class NumericEditTest : public DialogTest {
  protected:
-  NumericEditTest() {
-    for (const char* suite : {"SP Basic Suite", "AI User Suite", "AI Unicode String Suite"}) {
-      EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
-    }
-  }
+  NumericEditTest() { Request({"SP Basic Suite", "AI User Suite", "AI Unicode String Suite"}); }
 };
 
 // A field from 0.01 pt to 20 mm in a dialog that is up, with another field beside it.

@@ -61,8 +61,7 @@ struct MenuHandler : RVADM_MenuHandler {
 class PaletteTest : public DialogTest {
  protected:
   PaletteTest() {
-    for (const char* suite : {kAIPanelSuite, kAIPanelFlyoutMenuSuite, kAIUserSuite})
-      plugin.RequestSuite(suite);
+    Request({kAIPanelSuite, kAIPanelFlyoutMenuSuite, kAIUserSuite});
     drawing->setFocusPolicy(Qt::StrongFocus);
     window.setCentralWidget(drawing);
     window.setFocusProxy(drawing);

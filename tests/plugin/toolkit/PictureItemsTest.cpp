@@ -2,7 +2,6 @@
 #include <string>
 
 #include "DialogWorld.h"
-#include "Pictures.h"
 #include "RVADM_PictureLabel.h"
 #include "RVADM_PicturePushButton.h"
 #include "RVADM_TextEdit.h"
@@ -25,8 +24,8 @@ class PictureItemsTest : public DialogTest {
   }
 
   static void Write(int id, const QColor& light, const QColor& dark, int width = 16) {
-    bundle.Write("png/p" + std::to_string(id + 1000) + ".png", PNGPicture(width, 16, light));
-    bundle.Write("png/p" + std::to_string(id + 2000) + ".png", PNGPicture(width, 16, dark));
+    bundle.WritePicture(id + 1000, light, width);
+    bundle.WritePicture(id + 2000, dark, width);
   }
   static void ChangeTheme(host::Theme theme) {
     host::setTheme(theme);

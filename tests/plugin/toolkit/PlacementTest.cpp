@@ -17,11 +17,10 @@ std::tuple<int, int, int, int> Sides(const ADMRect& rect) {
 TEST(Placement, AppliesFlagsInTheirOrder) {
   const ADMRect rect{10, 20, 40, 30};  // 30 by 10
   const ADMRect target{100, 200, 205, 261};
-  struct Row {
+  const struct {
     int flags;
     ADMRect placed;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {kAlignBase, rect},
       {kStretchLeft, {100, 20, 40, 30}},
       {kStretchRight, {10, 20, 205, 30}},
@@ -40,21 +39,16 @@ TEST(Placement, AppliesFlagsInTheirOrder) {
       {1288, {10, 20, 205, 261}},
       {1536, {10, 225, 40, 235}},
   };
-  for (const Row& row : rows)
+  for (const auto& row : rows)
     EXPECT_EQ(Sides(Placed(rect, target, row.flags)), Sides(row.placed)) << row.flags;
-}
-
-TEST(Placement, CentresTowardsZero) {
-  EXPECT_EQ(Placed({0, 0, 10, 10}, {-9, -9, 0, 4}, kCenterH | kCenterV).left, -9);
-  EXPECT_EQ(Placed({0, 0, 10, 10}, {-9, -9, 0, 4}, kCenterH | kCenterV).top, -7);
+  EXPECT_EQ(Sides(Placed({0, 0, 10, 10}, {-9, -9, 0, 4}, kCenterH | kCenterV)), std::tuple(-9, -7, 1, 3));
 }
 
 TEST(Gaps, GoByTheKindsAndTheFrame) {
-  struct Row {
+  const struct {
     int first, second;
     int modalBelow, paletteBelow, modalBeside, paletteBeside;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {kTextPushButtonKind, kTextPushButtonKind, 7, 4, 7, 6},
       {kRadioKind, kRadioKind, 5, 4, 7, 4},
       {kCheckBoxKind, kCheckBoxKind, 5, 4, 7, 4},
@@ -64,7 +58,7 @@ TEST(Gaps, GoByTheKindsAndTheFrame) {
       {kLabelKind, kTextPushButtonKind, 7, 4, 4, 4},
       {kTextPushButtonKind, kLabelKind, 7, 4, 7, 4},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     EXPECT_EQ(VerticalGap(ModalDialogMetrics(), row.first, row.second), row.modalBelow);
     EXPECT_EQ(VerticalGap(NonModalDialogMetrics(), row.first, row.second), row.paletteBelow);
     EXPECT_EQ(HorizontalGap(ModalDialogMetrics(), row.first, row.second), row.modalBeside);

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "DialogWorld.h"
-#include "Pictures.h"
 #include "RVADM_Frame.h"
 #include "RVADM_Group.h"
 #include "RVADM_Label.h"
@@ -44,12 +43,8 @@ struct Watched : Item {
 class PlainItemsTest : public DialogTest {
  protected:
   PlainItemsTest() {
-    for (const char* suite : {"SP Basic Suite", "AI User Suite", "AI Unicode String Suite"}) {
-      EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
-    }
-    for (const int id : {kPicture + 1000, kPicture + 2000}) {
-      bundle.Write("png/p" + std::to_string(id) + ".png", PNGPicture(16, 16, Qt::red));
-    }
+    Request({"SP Basic Suite", "AI User Suite", "AI Unicode String Suite"});
+    for (const int id : {kPicture + 1000, kPicture + 2000}) bundle.WritePicture(id, Qt::red);
   }
 };
 

@@ -9,6 +9,7 @@
 #include "HMX_AIPlugin.h"
 #include "HMX_AISuiteManager.h"
 #include "Host.h"
+#include "Pictures.h"
 #include "SPBasic.h"
 #include "ScratchFolder.h"
 #include "Theme.h"
@@ -33,6 +34,11 @@ class TestBundle {
   void Write(const std::string& file, const std::string& bytes) const {
     scratch.write("Test.bundle/Contents/Resources/" + file, bytes);
   }
+  // The PNG file behind the id, or behind the one 4000 above.
+  void WritePicture(int id, const QColor& color, int width = 16, int height = 16,
+                    bool isDouble = false) const {
+    Write("png/p" + std::to_string(id) + (isDouble ? "@2x.png" : ".png"), PNGPicture(width, height, color));
+  }
 
   const ScratchFolder scratch;
   const std::filesystem::path resources = scratch.path / "Test.bundle/Contents/Resources";
@@ -54,6 +60,10 @@ class ToolkitTest : public testing::Test {
     qRVADM::SetToolkitPlugin(record.handle);
   }
   ~ToolkitTest() override { qRVADM::SetToolkitPlugin(nullptr); }
+
+  void Request(std::initializer_list<const char*> suites) {
+    for (const char* suite : suites) EXPECT_EQ(plugin.RequestSuite(suite), kNoErr) << suite;
+  }
 
   static inline const TestBundle bundle;
   int argumentCount = 1;

@@ -5,7 +5,7 @@
 #include <map>
 
 #include "Files.h"
-#include "IconFiles.h"
+#include "IconList.h"
 #include "Raster.h"
 #include "RunOn.h"
 
@@ -61,25 +61,6 @@ TEST(IconFiles, EachVersionIsDrawnInItsInkAndListedByItsId) {
     EXPECT_EQ(single.corner, 0U);
   }
   EXPECT_THAT(scratch.read("out/svg/mark.svg"), testing::HasSubstr("fill=\"#3b3b3b\""));
-}
-
-std::map<std::string, std::string> filesBelow(const std::filesystem::path& folder) {
-  std::map<std::string, std::string> files;
-  for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-    if (entry.is_regular_file()) files[entry.path().lexically_relative(folder)] = readFile(entry.path());
-  }
-  return files;
-}
-
-TEST(ShippedIcons, ComeOutAlikeEachTime) {
-  const std::filesystem::path list = std::filesystem::path(CORVANE_SOURCE) / "plugin/icons/icons.txt";
-  const std::vector<DrawnIcon> set = readIconSet(list);
-  const ScratchFolder scratch;
-  writeIconFiles(set, scratch.path / "one");
-  writeIconFiles(set, scratch.path / "two");
-  const auto one = filesBelow(scratch.path / "one");
-  EXPECT_GT(one.size(), set.size() * 2);
-  EXPECT_TRUE(one == filesBelow(scratch.path / "two"));
 }
 
 // What code of the plug-in asks for by number.
