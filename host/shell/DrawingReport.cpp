@@ -7,6 +7,7 @@
 
 #include "Bounds.h"
 #include "Geometry.h"
+#include "ProcessingSteps.h"
 
 namespace host {
 namespace {
@@ -140,9 +141,12 @@ Json findingsAsJson(const Document& document, const std::vector<Finding>& findin
   return items;
 }
 
-std::string findingsAsText(const std::vector<Finding>& findings) {
-  if (findings.empty()) return "Preflight: no findings\n";
-  std::string text = "Preflight:\n";
+std::string findingsAsText(const Document& document, const std::vector<Finding>& findings) {
+  const bool isUnchecked = typesWithSteps(document).empty();
+  if (findings.empty()) {
+    return std::string("Preflight: no findings") + (isUnchecked ? ", as there are no line types" : "") + "\n";
+  }
+  std::string text = "Preflight, places from the lower left corner of the first artboard:\n";
   for (const Finding& finding : findings) text += "  " + finding.sentence + "\n";
   return text;
 }
@@ -225,7 +229,7 @@ std::string reportAsText(const SvgDrawing& drawing, const std::string& name,
   for (const SvgRemark& remark : drawing.remarks) {
     text += "  " + remarkLine(remark) + "\n";
   }
-  if (findings != nullptr) text += findingsAsText(*findings);
+  if (findings != nullptr) text += findingsAsText(document, *findings);
   return text;
 }
 
