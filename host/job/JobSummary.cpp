@@ -53,7 +53,7 @@ std::vector<AIRealPoint> markCentres(const Document& document, const DrawnArt& d
   for (const JobMark& mark : marksOf(document)) {
     const DrawnArt::Range& range = drawn.ranges[mark.art];
     if (range.first == range.end) continue;
-    centres.push_back({(mark.centre.x - sheet.left) * scale, (sheet.top - mark.centre.y) * scale});
+    centres.push_back({(mark.centre.x - sheet.left) * scale, (mark.centre.y - sheet.bottom) * scale});
   }
   return centres;
 }

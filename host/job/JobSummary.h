@@ -22,7 +22,7 @@ struct JobSummary {
   };
   std::vector<Sheet> sheets;
   std::vector<Work> works;         // every line type, in the order of lineTypesOf
-  std::vector<AIRealPoint> marks;  // centres in millimetres from the upper left of the first artboard, y down
+  std::vector<AIRealPoint> marks;  // centres in millimetres from the lower left of the first artboard, y up
 };
 
 // Guides and art that is hidden, by itself, a group or its layer, count for nothing, marks among it.

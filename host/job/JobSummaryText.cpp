@@ -56,7 +56,7 @@ std::string summaryAsText(const JobSummary& summary, const std::string& name) {
   text += heading("Line types", summary.works.empty());
   for (const JobSummary::Work& work : summary.works) text += workLine(work);
   text += heading("Register marks", summary.marks.empty());
-  if (!summary.marks.empty()) text += "  from the upper left corner of the first artboard, right and down:\n";
+  if (!summary.marks.empty()) text += "  from the lower left corner of the first artboard, right and up:\n";
   for (std::size_t i = 0; i < summary.marks.size(); ++i) {
     const AIRealPoint& mark = summary.marks[i];
     text += numbered(i) + millimetreText(mark.x) + ", " + millimetreText(mark.y) + " mm\n";

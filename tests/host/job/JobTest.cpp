@@ -162,13 +162,13 @@ TEST_F(JobTest, TheSummaryCountsWhatATableWillMeet) {
   EXPECT_EQ(job["line_types"][1]["paths"], 0);
   ASSERT_EQ(job["marks"].size(), 2U);
   EXPECT_NEAR(job["marks"][1]["x"].get<double>(), 25.4, 1e-9);
-  EXPECT_NEAR(job["marks"][0]["y"].get<double>(), 2540 - 12.7, 1e-9);
+  EXPECT_NEAR(job["marks"][0]["y"].get<double>(), 12.7, 1e-9);
   EXPECT_EQ(summaryAsText(summaryOf(document), "sheet\n.svg"),
             "Job summary: sheet .svg\n\n"
             "Artboards\n  1. Front: 5080 x 2540 mm\n  2. 254 x 254 mm\n\n"
             "Line types\n  Cut \"A\" : 4 paths, 279.4 mm\n  Drill (Structural/Drilling): no paths\n\n"
-            "Register marks\n  from the upper left corner of the first artboard, right and down:\n"
-            "  1. 12.7, 2527.3 mm\n  2. 25.4, 2514.6 mm\n");
+            "Register marks\n  from the lower left corner of the first artboard, right and up:\n"
+            "  1. 12.7, 12.7 mm\n  2. 25.4, 25.4 mm\n");
 }
 
 TEST_F(JobTest, StepsAreTheChosenOnesOrTheUsualAndNeverTheMarks) {
