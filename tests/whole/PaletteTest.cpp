@@ -32,7 +32,7 @@ class PaletteTest : public WindowTest {
 
   void showPalette() {
     EXPECT_TRUE(world.session.chooseMenuItem(kPaletteKey));
-    QCoreApplication::processEvents();
+    settle();
   }
   QDockWidget& dock() { return *window.findChild<QDockWidget*>(kPaletteKey); }
   QListWidget& list() { return *dock().findChild<QListWidget*>(); }
@@ -47,7 +47,7 @@ class PaletteTest : public WindowTest {
   void clickRow(const QString& name, Qt::KeyboardModifiers modifiers = {}) {
     const QRect place = list().visualItemRect(row(name));
     QTest::mouseClick(list().viewport(), Qt::LeftButton, modifiers, place.center());
-    QCoreApplication::processEvents();
+    settle();
   }
   // The text of the palette's button, with "(off)" behind it if it is disabled.
   std::string button() {
@@ -62,7 +62,7 @@ class PaletteTest : public WindowTest {
     for (QPushButton* candidate : dock().widget()->findChildren<QPushButton*>()) {
       if (!candidate->isHidden()) QTest::mouseClick(candidate, Qt::LeftButton);
     }
-    QCoreApplication::processEvents();
+    settle();
   }
 
   ArtId art(const std::string& name) { return artNamed(world.document(), name); }
@@ -70,7 +70,7 @@ class PaletteTest : public WindowTest {
     world.document().deselectAll();
     for (const std::string& name : names) world.document().setSelected(art(name), true);
     window.refresh();
-    QCoreApplication::processEvents();
+    settle();
   }
   std::string strokeOf(const std::string& name) {
     const AIPathStyle& style = *world.document().styleOf(art(name));
@@ -100,7 +100,7 @@ class PaletteTest : public WindowTest {
     });
     timer.start(5);
     act();
-    QCoreApplication::processEvents();
+    settle();
     return texts;
   }
 
@@ -144,10 +144,10 @@ TEST_F(PaletteTest, TakesNoticeWhileItIsShownAndADocumentIsOpen) {
   clickRow("Kiss Cut");
   world.choose({"File", "Save"});
   world.choose({"File", "Close"});
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_FALSE(list().isEnabled());
   EXPECT_THAT(window.openFiles({file}), IsEmpty());
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_TRUE(list().isEnabled());
 }
 
@@ -162,7 +162,7 @@ TEST_F(PaletteTest, SpeaksTheUsersLanguageAndClipsNothing) {
     setenv("LANGUAGE", speech.language, 1);
     EXPECT_THAT(world.session.restart(), IsEmpty());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // the former panel
-    QCoreApplication::processEvents();
+    settle();
     if (dock().isHidden()) showPalette();
     for (const QPushButton* candidate : dock().widget()->findChildren<QPushButton*>()) {
       EXPECT_LE(candidate->sizeHint().width(), candidate->width()) << candidate->text().toStdString();
@@ -184,7 +184,7 @@ TEST_F(PaletteTest, NoticesComeUpAtTheirAnchorAndGrowWithTheirDialog) {
     const auto& edit = *dialog.findChild<QTextEdit*>();
     QPushButton& ok = *dialog.findChild<QPushButton*>();
     dialog.resize(dialog.width() + 100, dialog.height() + 50);
-    QCoreApplication::processEvents();
+    settle();
     for (const char* name :
          {"Qt", "Boost", "librsvg", "Little CMS", "Expat", "CLI11", "JSON", "DejaVu", "ICU"}) {
       EXPECT_TRUE(edit.toPlainText().contains(name)) << name;

@@ -56,7 +56,7 @@ TEST_F(PreflightPanelTest, AClickSelectsWhatWasFoundAndAChangeIsCheckedAgain) {
   const auto press = [&](int row) {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {},
                       list().visualRect(list().model()->index(row, 0)).center());
-    QCoreApplication::processEvents();
+    settle();
   };
   press(1);
   ASSERT_EQ(document.selectedCount(), 1U);

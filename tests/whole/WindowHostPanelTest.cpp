@@ -45,7 +45,6 @@ class WindowHostPanelTest : public WindowTest {
     settle();
   }
 
-  void settle() { QCoreApplication::processEvents(); }
   QDockWidget& dock(const std::string& name) {
     return *world.window->findChild<QDockWidget*>(QString::fromStdString("corvane-host " + name));
   }

@@ -108,7 +108,7 @@ TEST_F(WindowPanelTest, IsShownAndHiddenByThePluginTheMenuAndItsButton) {
   EXPECT_FALSE(isShown(panel));
   EXPECT_EQ(panels.Show(panel, 1), kNoErr);
   EXPECT_THAT(takeTold(), Contains("shown"));
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_TRUE(viewOf(panel).isVisible());
   EXPECT_EQ(window.dockWidgetArea(&dock()), Qt::RightDockWidgetArea);
   EXPECT_THAT(world.menuTree(), HasSubstr(", Line & Types [x]"));
@@ -119,7 +119,7 @@ TEST_F(WindowPanelTest, IsShownAndHiddenByThePluginTheMenuAndItsButton) {
   EXPECT_FALSE(isShown(panel));
   world.choose({"Window", "Line & Types"});
   EXPECT_TRUE(isShown(panel));
-  QCoreApplication::processEvents();
+  settle();
   takeTold();
   click("Change the state of");
   click("Collapse");
@@ -133,7 +133,7 @@ TEST_F(WindowPanelTest, IsShownAndHiddenByThePluginTheMenuAndItsButton) {
   click("Close");
   EXPECT_THAT(takeTold(), ElementsAre("hidden"));
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_THAT(world.menuTree(), Not(HasSubstr("Line & Types")));
 }
 
@@ -146,7 +146,7 @@ TEST_F(WindowPanelTest, KeepsItsLimitsWhateverRoomThereIs) {
   EXPECT_THAT(takeTold(), ElementsAre("size"));
   panels.Move(panel, 40, 40);
   panels.Show(panel, 1);
-  QCoreApplication::processEvents();
+  settle();
   ASSERT_TRUE(dock().isFloating());
   EXPECT_EQ(dock().pos(), QPoint(40, 40));
   takeTold();
@@ -158,14 +158,14 @@ TEST_F(WindowPanelTest, KeepsItsLimitsWhateverRoomThereIs) {
   for (const Row& row :
        {Row{{250, 200}, {250, 190}}, Row{{10, 10}, {200, 100}}, Row{{900, 900}, {300, 400}}}) {
     dock().resize(row.room + around);
-    QCoreApplication::processEvents();
+    settle();
     EXPECT_EQ(size(panel).width, row.got.width);
     EXPECT_EQ(size(panel).height, row.got.height);
     EXPECT_EQ(takeTold().size(), 1U);
   }
   EXPECT_EQ(panels.SetSize(panel, {220, 130}), kNoErr);
   EXPECT_EQ(takeTold().size(), 1U);
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_EQ(dock().size(), QSize(220, 130) + around) << "a panel that floats has the room it asks for";
 }
 
@@ -177,7 +177,7 @@ TEST_F(WindowPanelTest, OpensItsMenuAndNamesTheUndoStepAfterTheItem) {
   const AIPanelRef panel = newPanel();
   panels.SetFlyoutMenu(panel, menu);
   panels.Show(panel, 1);
-  QCoreApplication::processEvents();
+  settle();
   takeTold();
   click("Menu of");
   EXPECT_THAT(takeTold(), ElementsAre("opening"));
@@ -192,7 +192,7 @@ TEST_F(WindowPanelTest, OpensItsMenuAndNamesTheUndoStepAfterTheItem) {
   QTest::mouseClick(popup, Qt::LeftButton, {}, popup->actionGeometry(popup->actions().front()).center());
   EXPECT_THAT(takeTold(), ElementsAre("item 5"));
   EXPECT_EQ(world.document().undoName(), "Lock & All");
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_TRUE(window.isWindowModified()) << "the window shows what the plug-in did";
   EXPECT_EQ(menus.Destroy(menu), kNoErr);
   EXPECT_EQ(world.host.panels().find(panel)->menu, nullptr);
@@ -213,7 +213,7 @@ TEST_F(WindowPanelTest, ComesBackWhereItWas) {
   EXPECT_FALSE(isShown(panel));
   EXPECT_EQ(size(panel).width, 230);
   EXPECT_EQ(size(panel).height, 140);
-  QCoreApplication::processEvents();
+  settle();
   EXPECT_TRUE(isShown(panel));
   EXPECT_TRUE(dock().isFloating());
   EXPECT_EQ(dock().pos(), QPoint(60, 70));
@@ -241,7 +241,7 @@ TEST_F(WindowPanelTest, HandlersThatThrowAreToldOfAndTheWindowGoesOn) {
   auto* button = new QPushButton("Fail", &viewOf(panel));
   QObject::connect(button, &QPushButton::clicked, [] { throw std::runtime_error("no paper"); });
   panels.Show(panel, 1);
-  QCoreApplication::processEvents();
+  settle();
   const auto textTold = [&] {
     const BoxAnswer answer(Qt::Key_Escape);
     EXPECT_TRUE(

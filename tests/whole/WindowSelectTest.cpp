@@ -43,7 +43,7 @@ class WindowSelectTest : public WindowTest {
   WindowSelectTest() {
     window.resize(1100, 900);
     window.openFiles({scratch.write("squares.svg", kSquares)});
-    QApplication::processEvents();
+    settle();
   }
 
   QWidget& view() { return world.view(); }

@@ -34,7 +34,7 @@ TEST_F(WindowTest, MarksComeThroughTheMenuAndGoWithUndo) {
   world.choose({"File", "Open..."});
   ASSERT_NE(world.host.currentDocument(), nullptr);
   EXPECT_EQ(window.windowTitle().toStdString(), "full-bleed-poster.svg[*] \u2014 corvane-host");
-  QCoreApplication::processEvents();
+  settle();
   const QImage before = window.grab().toImage();
 
   bool stillBusy = false;

@@ -70,7 +70,7 @@ class WindowToolTest : public WindowTest {
 
 TEST_F(WindowToolTest, StripsLieAtTheLeftEdgeOfTheArtboard) {
   window.resize(1300, 1100);
-  QApplication::processEvents();
+  settle();
   const QImage without = picture();
   choose(kRound);
   const QImage with = picture();

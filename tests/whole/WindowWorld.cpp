@@ -77,6 +77,10 @@ void BoxAnswer::look(const std::function<void(QDialog&)>& answer) {
   answer(*dialog);
 }
 
+void settle() {
+  for (int pass = 0; pass < 3; ++pass) QTest::qWait(1);
+}
+
 std::string shownText(const QString& text) {
   QString plain;
   for (int i = 0; i < text.size(); ++i) {

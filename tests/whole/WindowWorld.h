@@ -46,6 +46,10 @@ class BoxAnswer {
   std::optional<Seen> seen_;
 };
 
+// Lets pass what the window does by itself. It looks at changes by a timer without delay, which a single pass
+// of the event loop may leave for the next.
+void settle();
+
 // Without "&" of a mnemonic.
 std::string shownText(const QString& text);
 
