@@ -32,7 +32,7 @@ enum class MarkShape { Round = 0, Cross = 1 };
 struct MarksArguments {
   std::vector<std::string> inputs;
   std::string output;     // one input
-  std::string outFolder;  // any number of inputs; a file there is named like its input
+  std::string outFolder;  // made if it is not there; any number of inputs, and files named like them
   Placement placement = Placement::Corner;
   MarkShape shape = MarkShape::Round;
   double size = 6 * 72 / 25.4;

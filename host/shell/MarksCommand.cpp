@@ -71,6 +71,10 @@ class MarksRun {
       complain(wrong);
       return kExitUsage;
     }
+    if (const std::string reason = makeFolder(); !reason.empty()) {
+      complain(reason);
+      return kExitCouldNot;
+    }
     host_.showAlert = [](const Alert& alert) { std::cerr << alertLine(alert) << '\n'; };
     ensureApplication();
     answerer_.emplace(host_);
@@ -110,6 +114,13 @@ class MarksRun {
       jobs_.emplace_back(input, output);
     }
     return {};
+  }
+
+  // Empty, or why there is no folder for the marked drawings.
+  std::string makeFolder() const {
+    std::error_code error;
+    if (!arguments_.outFolder.empty()) fs::create_directories(arguments_.outFolder, error);
+    return error ? "cannot make the folder " + arguments_.outFolder + ": " + error.message() : "";
   }
 
   ExitCode mark(const std::string& input, const std::string& output) {

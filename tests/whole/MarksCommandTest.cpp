@@ -163,14 +163,16 @@ TEST(MarksCommand, WrongUsageIsToldApart) {
 
 TEST(MarksCommand, OneBadDrawingOfManyStopsNoneOfTheOthers) {
   const ScratchFolder scratch;
-  std::filesystem::create_directory(scratch.file("out"));
   const std::string bad = scratch.write("bad.svg", "no");
-  const ProcessResult run =
-      runHost({"marks", bad, kExamples + "/sticker-sheet.svg", "--out-dir", scratch.file("out"), "--json"});
+  const ProcessResult run = runHost(
+      {"marks", bad, kExamples + "/sticker-sheet.svg", "--out-dir", scratch.file("new/out"), "--json"});
   EXPECT_EQ(run.code, 1);
   EXPECT_EQ(json::parse(run.out)["marks"].size(), 5U);
-  EXPECT_TRUE(scratch.has("out/sticker-sheet.svg"));
-  EXPECT_FALSE(scratch.has("out/bad.svg"));
+  EXPECT_TRUE(scratch.has("new/out/sticker-sheet.svg"));
+  EXPECT_FALSE(scratch.has("new/out/bad.svg"));
+  const ProcessResult inFile = runHost({"marks", kExamples + "/sticker-sheet.svg", "--out-dir", bad});
+  EXPECT_EQ(inFile.code, 1);
+  EXPECT_THAT(inFile.err, StartsWith("corvane-host: cannot make the folder " + bad + ": "));
 }
 
 TEST(MarksCommand, RefusedCallsAreNamed) {
