@@ -11,7 +11,7 @@
 
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 
 RDB_Handle Read(const std::string& bytes) {
   RDB_Reader reader(bytes.data(), bytes.size());
