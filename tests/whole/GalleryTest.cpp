@@ -17,7 +17,6 @@ namespace host {
 namespace {
 
 using RVADMQtManager::QtManager;
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 constexpr char kDialogItem[] = "Gallery of Items...";

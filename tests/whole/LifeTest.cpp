@@ -10,7 +10,6 @@
 namespace host {
 namespace {
 
-using testing::ElementsAre;
 
 TEST(Life, MessagesComeInTheOrderOfAnApplication) {
   takeRecorded();  // those of former lives

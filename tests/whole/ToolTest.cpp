@@ -11,7 +11,6 @@
 namespace host {
 namespace {
 
-using testing::ElementsAre;
 
 constexpr double kMillimetre = 72 / 25.4;
 

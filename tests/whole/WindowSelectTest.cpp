@@ -14,7 +14,6 @@
 namespace host {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::UnorderedElementsAre;
 
