@@ -10,7 +10,6 @@
 namespace host {
 namespace {
 
-
 TEST(Life, MessagesComeInTheOrderOfAnApplication) {
   takeRecorded();  // those of former lives
   Host host;

@@ -11,7 +11,6 @@
 namespace host {
 namespace {
 
-
 constexpr double kMillimetre = 72 / 25.4;
 
 struct CountingCanvas : AnnotationCanvas {

@@ -15,7 +15,6 @@
 namespace host {
 namespace {
 
-using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 constexpr char kHead[] =
