@@ -2,6 +2,7 @@
 #include <cstdint>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Properties.h"
 #include "RDB_LoadCompiled.h"
 

@@ -6,6 +6,7 @@
 #include "DecimalText.h"
 #include "EvaluateExpression.h"
 #include "Expect.h"
+#include "FuzzTarget.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "IDToFile.h"
 #include "ResourceLine.h"
 #include "ResourceTable.h"

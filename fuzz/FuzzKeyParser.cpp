@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Properties.h"
 #include "RDB.h"
 

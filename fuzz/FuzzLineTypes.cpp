@@ -6,6 +6,7 @@
 
 #include "DefinitionFile.h"
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "HMX_AISuiteManager.h"
 #include "Host.h"
 #include "JSONText.h"

@@ -7,6 +7,7 @@
 
 #include "DecimalText.h"
 #include "Expect.h"
+#include "FuzzTarget.h"
 
 namespace {
 

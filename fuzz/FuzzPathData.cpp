@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Geometry.h"
 #include "SvgPathData.h"
 #include "SvgPathText.h"

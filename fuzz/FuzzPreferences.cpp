@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Preferences.h"
 #include "RecoveryNote.h"
 #include "ScratchFolder.h"

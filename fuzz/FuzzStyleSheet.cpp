@@ -6,6 +6,7 @@
 #include <string>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "SvgColour.h"
 #include "SvgFont.h"
 #include "SvgLength.h"

@@ -6,6 +6,7 @@
 
 #include "DocumentChecks.h"
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Geometry.h"
 #include "RandomChanges.h"
 #include "SvgScanner.h"

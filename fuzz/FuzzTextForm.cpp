@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Properties.h"
 #include "RDB_LoadText.h"
 #include "RDB_PlainEntry.h"

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "Expect.h"
+#include "FuzzTarget.h"
 #include "Length.h"
 #include "PreferredLanguages.h"
 #include "Utf8.h"
