@@ -56,7 +56,8 @@ std::string largeDrawing() {
       "1000\">\n";
   const double pitch = kPage / kColumns;
   for (int shape = 0; shape < kSegments / kCurves; ++shape) {
-    const double x = (shape % kColumns + 0.5) * pitch, y = (shape / kColumns + 0.5) * pitch;
+    const int column = shape % kColumns, row = shape / kColumns;
+    const double x = (column + 0.5) * pitch, y = (row + 0.5) * pitch;
     svg += shape % 2 == 0 ? "<path fill=\"none\" stroke=\"#e6007e\" stroke-width=\"0.4\" d=\"M "
                           : "<path fill=\"#3a7bd5\" d=\"M ";
     append(svg, x + 4), append(svg, y);
