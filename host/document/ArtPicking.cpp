@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Chords.h"
 #include "DrawnArt.h"
 #include "Geometry.h"
 #include "Paint.h"
@@ -46,32 +47,14 @@ double distance(AIRealPoint point, const AIRealRect& area) {
                     std::max({area.bottom - point.y, 0.0, point.y - area.top}));
 }
 
-double distance(AIRealPoint point, AIRealPoint a, AIRealPoint b) {
-  const double size = squaredLength(b - a);
-  const double along = size > 0 ? std::clamp(dot(point - a, b - a) / size, 0.0, 1.0) : 0;
-  return length(point - (a + (b - a) * along));
-}
-
 bool comesNear(AIRealPoint a, AIRealPoint b, const AIRealRect& area, double reach) {
   if (crosses(a, b, area) || distance(a, area) <= reach || distance(b, area) <= reach) return true;
   for (const double x : {area.left, area.right}) {
     for (const double y : {area.bottom, area.top}) {
-      if (distance({x, y}, a, b) <= reach) return true;
+      if (distanceToChord({x, y}, a, b) <= reach) return true;
     }
   }
   return false;
-}
-
-int windingOf(const std::vector<AIRealPoint>& ring, AIRealPoint point) {
-  int winding = 0;
-  for (std::size_t i = 1; i < ring.size(); ++i) {
-    const AIRealPoint a = ring[i - 1], b = ring[i];
-    if ((a.y <= point.y) == (b.y <= point.y)) continue;
-    const double side = cross(b - a, point - a);
-    if (a.y <= point.y && side > 0) ++winding;
-    if (b.y <= point.y && side < 0) --winding;
-  }
-  return winding;
 }
 
 // What touches one area.
@@ -137,8 +120,7 @@ class Picker {
   bool touchesFill(const Paths& paths, bool evenOdd) const {
     int winding = 0;
     for (const PathGeometry* path : paths) winding += windingOf(flatten(*path, tolerance_, true), middle_);
-    const bool inside = evenOdd ? winding % 2 != 0 : winding != 0;
-    return inside || touchesLines(paths, 0, true);
+    return isInside(winding, evenOdd) || touchesLines(paths, 0, true);
   }
 
   const AIRealRect area_;

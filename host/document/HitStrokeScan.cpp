@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Chords.h"
 #include "Vector.h"
 
 namespace host {
@@ -13,13 +14,6 @@ constexpr double kHalfDiagonal = 0.7071067811865476;  // of a cell
 constexpr double kMargin = 0.01;                      // of a cell
 constexpr double kStraight = 0.15;                    // of a cell: the most that a straight stretch bends
 constexpr std::uint32_t kMostEdges = 64;              // in a stretch
-
-double distance(AIRealPoint point, AIRealPoint a, AIRealPoint b) {
-  const AIRealPoint line = b - a;
-  const double size = squaredLength(line);
-  const double along = size > 0 ? std::clamp(dot(point - a, line) / size, 0.0, 1.0) : 0;
-  return length(a + line * along - point);
-}
 
 }  // namespace
 
@@ -65,7 +59,7 @@ class HitStrokeScan::Course {
   double deviation(std::uint32_t from, std::uint32_t to) const {
     double greatest = 0;
     for (std::uint32_t i = from + 1; i < to; ++i) {
-      greatest = std::max(greatest, distance(points_[i], points_[from], points_[to]));
+      greatest = std::max(greatest, distanceToChord(points_[i], points_[from], points_[to]));
     }
     return greatest;
   }
@@ -131,7 +125,7 @@ void HitStrokeScan::addInside(const Course& course, std::uint32_t from, std::uin
   if (cutAtStart) a = a + along;
   if (cutAtEnd) b = b - along;
   for (const AIRealPoint* cut : {before, after}) {
-    if (cut != nullptr && distance(*cut, a, b) < clear * (1 - 1e-9)) return;
+    if (cut != nullptr && distanceToChord(*cut, a, b) < clear * (1 - 1e-9)) return;
   }
   add({a, b, radius}, true);
 }

@@ -1,5 +1,6 @@
 #include "PdfContentReader.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>

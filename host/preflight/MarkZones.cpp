@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "Chords.h"
 #include "Geometry.h"
 #include "Paint.h"
 #include "Vector.h"
@@ -39,41 +40,23 @@ struct Circle {
   double radius;
 };
 
-double distance(AIRealPoint point, AIRealPoint a, AIRealPoint b) {
-  const double size = squaredLength(b - a);
-  const double along = size > 0 ? std::clamp(dot(point - a, b - a) / size, 0.0, 1.0) : 0;
-  return length(point - (a + (b - a) * along));
-}
-
 bool comesWithin(const Chords& chords, AIRealPoint centre, double radius) {
   for (const auto& points : chords) {
     if (points.size() == 1 && length(points.front() - centre) < radius) return true;
     for (std::size_t i = 1; i < points.size(); ++i) {
-      if (distance(centre, points[i - 1], points[i]) < radius) return true;
+      if (distanceToChord(centre, points[i - 1], points[i]) < radius) return true;
     }
   }
   return false;
-}
-
-bool isInside(const Chords& rings, bool evenOdd, AIRealPoint point) {
-  int winding = 0;
-  for (const auto& ring : rings) {
-    for (std::size_t i = 1; i < ring.size(); ++i) {
-      const AIRealPoint a = ring[i - 1], b = ring[i];
-      if ((a.y <= point.y) == (b.y <= point.y)) continue;
-      const double side = cross(b - a, point - a);
-      if (a.y <= point.y && side > 0) ++winding;
-      if (b.y <= point.y && side < 0) --winding;
-    }
-  }
-  return evenOdd ? winding % 2 != 0 : winding != 0;
 }
 
 enum class Reach { None, Enters, Covers };
 
 Reach reachOfFill(const Chords& rings, bool evenOdd, const Circle& circle) {
   if (comesWithin(rings, circle.centre, circle.radius)) return Reach::Enters;
-  return isInside(rings, evenOdd, circle.centre) ? Reach::Covers : Reach::None;
+  int winding = 0;
+  for (const auto& ring : rings) winding += windingOf(ring, circle.centre);
+  return isInside(winding, evenOdd) ? Reach::Covers : Reach::None;
 }
 
 Reach reachOfRect(const AIRealRect& box, const Circle& circle) {

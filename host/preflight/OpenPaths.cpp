@@ -1,9 +1,9 @@
 #include <cmath>
-#include <string_view>
 
 #include "Bounds.h"
 #include "Checks.h"
 #include "Geometry.h"
+#include "ProcessingSteps.h"
 #include "Vector.h"
 
 namespace host {
@@ -15,12 +15,6 @@ constexpr double kNearlyClosed = 2;
 constexpr double kAtEdge = 0.5;  // from the edge of a sheet
 // Beside its gap, a shape that was meant to be closed is at least so many times as wide or high.
 constexpr double kShapeToGap = 3;
-
-// Through or part of the way. Perforations, and lines that cut and crease by turns, run from edge to edge.
-bool shouldBeClosed(const std::string& step) {
-  constexpr std::string_view kEnd = "Cutting";
-  return step.size() > kEnd.size() && step.compare(step.size() - kEnd.size(), kEnd.size(), kEnd) == 0;
-}
 
 class OpenPaths {
  public:
@@ -57,7 +51,7 @@ class OpenPaths {
     if (gap <= job_.unitsOf(kNearlyClosed) && isShape) {
       if (nearly_.count == 0) firstGap_ = gap;
       nearly_.add(art, path.segments.back().p);
-    } else if (shouldBeClosed(type_.step) && !runsBetweenEdges(path, box)) {
+    } else if (isCutting(type_.step) && !runsBetweenEdges(path, box)) {
       open_.add(art, path.segments.back().p);
     }
   }
@@ -82,7 +76,7 @@ class OpenPaths {
 void checkOpenPaths(const PreflightJob& job, Findings& findings) {
   for (const PreflightJob::Type& type : job.types) {
     // What is not known may well cut.
-    if (type.step.empty() || shouldBeClosed(type.step)) OpenPaths(job, type).report(findings);
+    if (type.step.empty() || isCutting(type.step)) OpenPaths(job, type).report(findings);
   }
 }
 
