@@ -54,7 +54,7 @@ Stage::Stage(std::uint64_t seed, bool aloud) : chance(seed), diary(aloud) {
   setenv("CORVANE_SHARED_DATA", scratch_.file("shared").c_str(), 1);
   setenv("HOME", scratch_.path.c_str(), 1);  // menus show files in it under the same names each time
   qSetGlobalQHashSeed(0);                    // the same order each time
-  for (const char* name : {"full-bleed-poster", "sticker-sheet", "two-cards-a4"}) {
+  for (const char* name : {"full-bleed-poster", "sticker-sheet", "two-cards-a4", "tea-carton"}) {
     const std::string bytes = readText(std::string(CORVANE_EXAMPLES) + "/" + name + ".svg");
     keep(scratch_.write(name + std::string(".svg"), bytes));
   }

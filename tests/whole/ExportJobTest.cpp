@@ -221,6 +221,7 @@ TEST(ExportJob, PagesLookLikeTheCanvas) {
   const Row table[] = {{marked("sticker-sheet.svg", "corner"), 1},
                        {marked("full-bleed-poster.svg", "auto"), 1},
                        {marked("two-cards-a4.svg", "edge"), 2},
+                       {marked("tea-carton.svg", "corner"), 1},
                        {odd(kFadingInks), 1},
                        {odd(kBlends), 1},
                        {odd(kStrokes), 1}};
