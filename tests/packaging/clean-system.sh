@@ -43,6 +43,9 @@ for format in png pdf svg; do
   worker corvane-host export marked.svg -o "copy.$format"
   [ -s "$work/copy.$format" ] || fail "no $format was written"
 done
+worker corvane-host export "$examples/tea-carton.svg" -o carton.pdf --step Crease=Folding --summary
+grep -q 'Crease (Structural/Folding): 8 paths' "$work/carton.txt" || fail "the summary does not know the creases"
+worker corvane-host info --check "$examples/tea-carton.svg" | grep -q 'no findings' || fail "preflight finds what is not so"
 worker corvane-host info marked.svg | grep -q Regmark || fail "info does not know the layer of marks"
 worker env QT_QPA_PLATFORM=offscreen corvane-host --screenshot window.png marked.svg
 [ -s "$work/window.png" ] || fail "the window made no picture of itself"
