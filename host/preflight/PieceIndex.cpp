@@ -15,8 +15,11 @@ constexpr double kLevelStep = 4;         // from the length of one level to the 
 constexpr double kShortestLevel = 6;     // in distances: shorter pieces need no level of their own
 constexpr double kCellSize = 4;          // in the reach of pieces: most look into two or three
 constexpr double kMostCells = 1e15;      // in a row
-constexpr double kMostBins = 1e5;
-constexpr std::uint64_t kBinMask = 0x1FFFF;  // of a slot
+// A slot is, from its last bits on: the bin, the cell's place in its block, and the block.
+constexpr int kBinBits = 14;
+constexpr std::uint64_t kBinMask = (1 << kBinBits) - 1;
+constexpr double kMostBins = 1 << kBinBits;
+constexpr int kBlockBits = 3;  // a block has 8 columns and 8 rows of cells
 
 std::int64_t cellAt(double coordinate, double size) {
   return static_cast<std::int64_t>(std::clamp(std::floor(coordinate / size), -kMostCells, kMostCells));
@@ -27,10 +30,14 @@ std::uint64_t mixed(std::uint64_t seed, std::int64_t value) {
   return (product ^ (product >> 29)) * 0xBF58476D1CE4E5B9U;
 }
 
-// The bins of a cell are beside each other. Two cells that are equal by chance cost time, and nothing else.
-std::uint64_t slotOf(std::size_t level, std::int64_t column, std::int64_t row, std::int64_t bin) {
-  const std::uint64_t cell = mixed(mixed(level + 1, column), row);
-  return (cell & ~kBinMask) | static_cast<std::uint64_t>(bin);
+// The slot of its first bin. The cells of a block are near each other in the index, as the pieces of a line
+// are on the sheet; blocks are numbered as if at random, and two that are equal by chance cost time, nothing
+// else.
+std::uint64_t cellOf(std::size_t level, std::int64_t column, std::int64_t row) {
+  constexpr std::int64_t kInBlock = (1 << kBlockBits) - 1;
+  const std::uint64_t block = mixed(mixed(level + 1, column >> kBlockBits), row >> kBlockBits);
+  const auto place = static_cast<std::uint64_t>((row & kInBlock) << kBlockBits | (column & kInBlock));
+  return ((block << 2 * kBlockBits) | place) << kBinBits;
 }
 
 // 0 to pi: the same either way round.
@@ -43,9 +50,13 @@ AIRealPoint middleOf(const LinePiece& piece) {
   return (piece.from + piece.to) * 0.5;
 }
 
-double offsetIn(std::int64_t bin, double binSize, AIRealPoint point) {
-  const double direction = (static_cast<double>(bin) + 0.5) * binSize;
-  return cross({std::cos(direction), std::sin(direction)}, point);
+std::vector<AIRealPoint> axesOf(double binSize) {
+  std::vector<AIRealPoint> axes(static_cast<std::size_t>(std::lround(M_PI / binSize)));
+  for (std::size_t bin = 0; bin < axes.size(); ++bin) {
+    const double direction = (static_cast<double>(bin) + 0.5) * binSize;
+    axes[bin] = {std::cos(direction), std::sin(direction)};
+  }
+  return axes;
 }
 
 }  // namespace
@@ -53,10 +64,27 @@ double offsetIn(std::int64_t bin, double binSize, AIRealPoint point) {
 struct PieceIndex::Seeker {
   std::size_t place;  // of its entry
   const LinePiece& piece;
-  AIRealPoint middle;
+  AIRealPoint middle, axis;  // the axis of length 1
   double direction, bend;
 
   bool isIn(const Run& run) const { return place >= run.first && place < run.end; }
+};
+
+// From one to another bin of a level. Behind its last one comes its first.
+struct PieceIndex::Bins {
+  Bins(double from, double to, const Level& level)
+      : first(std::floor(from / level.binSize)),
+        last(std::floor(to / level.binSize)),
+        all(static_cast<double>(level.axes.size())) {}
+
+  // False also for a bin that the level does not have: of a cell that is equal by chance.
+  bool contain(std::size_t bin) const {
+    const auto number = static_cast<double>(bin);
+    return number < all &&
+           ((number >= first && number <= last) || number - all >= first || number + all <= last);
+  }
+
+  double first, last, all;
 };
 
 PieceIndex::PieceIndex(const LinePieces& lines, const OverlapLimits& limits)
@@ -66,6 +94,8 @@ PieceIndex::PieceIndex(const LinePieces& lines, const OverlapLimits& limits)
     levels_.push_back(levelOf(longest));
     longest /= kLevelStep;
   } while (longest > kShortestLevel * limits.distance);
+  directions_.reserve(lines.pieces.size());
+  for (const LinePiece& piece : lines.pieces) directions_.push_back(directionOf(piece.to - piece.from));
   entries_.reserve(lines.pieces.size());
   for (std::uint32_t i = 0; i < lines.pieces.size(); ++i) entries_.push_back(entryOf(i));
   std::sort(entries_.begin(), entries_.end(), [](const Entry& a, const Entry& b) {
@@ -74,7 +104,7 @@ PieceIndex::PieceIndex(const LinePieces& lines, const OverlapLimits& limits)
   findRuns();
 }
 
-// Cells are numbered at random, as it were, so their leading bits tell nearly where they are.
+// Since blocks are numbered as if at random, a slot's leading bits tell nearly where it is.
 void PieceIndex::findRuns() {
   for (std::size_t first = 0, end = 0; first < entries_.size(); first = end) {
     while (end < entries_.size() && entries_[end].slot == entries_[first].slot) ++end;
@@ -88,19 +118,19 @@ void PieceIndex::findRuns() {
   std::partial_sum(firstRuns_.begin(), firstRuns_.end(), firstRuns_.begin());
 }
 
-const PieceIndex::Run* PieceIndex::runOf(std::uint64_t slot) const {
+std::size_t PieceIndex::firstRunFrom(std::uint64_t slot) const {
   const std::size_t leading = slot >> trailingBits_;
-  for (std::size_t i = firstRuns_[leading]; i < firstRuns_[leading + 1]; ++i) {
-    if (runs_[i].slot == slot) return &runs_[i];
-  }
-  return nullptr;
+  const auto at = [this](std::size_t run) { return runs_.begin() + static_cast<std::ptrdiff_t>(run); };
+  const auto first = std::lower_bound(at(firstRuns_[leading]), at(firstRuns_[leading + 1]), slot,
+                                      [](const Run& run, std::uint64_t value) { return run.slot < value; });
+  return static_cast<std::size_t>(first - runs_.begin());
 }
 
 PieceIndex::Level PieceIndex::levelOf(double longest) const {
   const double bend = std::min(kSameDirection, kLevelStep * limits_.distance / longest);
   const double binSize = M_PI / std::clamp(std::ceil(M_PI / (2 * bend)), 1.0, kMostBins);
   const double reach = longest / 2 + limits_.distance;
-  return {longest, kCellSize * reach, bend, binSize, reach * std::sin(binSize / 2) + limits_.distance};
+  return {longest, kCellSize * reach, bend, binSize, reach * std::sin(binSize / 2) + limits_.distance, {}};
 }
 
 std::size_t PieceIndex::levelFor(double size) const {
@@ -114,10 +144,11 @@ PieceIndex::Entry PieceIndex::entryOf(std::uint32_t number) {
   const AIRealPoint middle = middleOf(piece);
   const std::size_t index = levelFor(length(piece.to - piece.from));
   Level& level = levels_[index];
-  level.isUsed = true;
-  const auto bin = static_cast<std::int64_t>(directionOf(piece.to - piece.from) / level.binSize);
-  return {slotOf(index, cellAt(middle.x, level.cell), cellAt(middle.y, level.cell), bin),
-          offsetIn(bin, level.binSize, middle), number};
+  if (level.axes.empty()) level.axes = axesOf(level.binSize);
+  const auto bin =
+      std::min(static_cast<std::size_t>(directions_[number] / level.binSize), level.axes.size() - 1);
+  return {cellOf(index, cellAt(middle.x, level.cell), cellAt(middle.y, level.cell)) | bin,
+          cross(level.axes[bin], middle), number};
 }
 
 // In the order of the lines: what one piece has looked at is at hand for the next.
@@ -132,14 +163,16 @@ std::vector<bool> PieceIndex::findDoubled() const {
 
 // In its own slot before all others: there most of a crowd find each other, each beside itself.
 bool PieceIndex::hasPartner(std::size_t place) const {
-  const LinePiece& piece = lines_.pieces[entries_[place].piece];
+  const Entry& entry = entries_[place];
+  const LinePiece& piece = lines_.pieces[entry.piece];
   const AIRealPoint way = piece.to - piece.from;
-  const std::size_t index = levelFor(length(way));
-  const Level& level = levels_[index];
-  const Seeker seeker{place, piece, middleOf(piece), directionOf(way), level.bend};
-  if (hasPartnerIn(seeker, *runOf(entries_[place].slot), entries_[place].offset, level.band)) return true;
+  const double size = length(way);
+  const Level& level = levels_[levelFor(size)];
+  const AIRealPoint axis = size > 0 ? way * (1 / size) : AIRealPoint{1, 0};
+  const Seeker seeker{place, piece, middleOf(piece), axis, directions_[entry.piece], level.bend};
+  if (hasPartnerIn(seeker, runs_[firstRunFrom(entry.slot)], entry.offset, level.band)) return true;
   for (std::size_t i = 0; i < levels_.size(); ++i) {
-    if (levels_[i].isUsed && hasPartnerIn(seeker, i)) return true;
+    if (!levels_[i].axes.empty() && hasPartnerIn(seeker, i)) return true;
   }
   return false;
 }
@@ -151,22 +184,26 @@ bool PieceIndex::hasPartnerIn(const Seeker& seeker, std::size_t index) const {
   const auto half = [&](double part) {
     return std::min(1.0, std::abs(part) + bend) * reach + limits_.distance;
   };
-  const double halfWidth = half(std::cos(seeker.direction)), halfHeight = half(std::sin(seeker.direction));
-  const auto bins = static_cast<std::int64_t>(std::lround(M_PI / level.binSize));
-  const auto firstBin = static_cast<std::int64_t>(std::floor((seeker.direction - bend) / level.binSize));
-  const auto lastBin = static_cast<std::int64_t>(std::floor((seeker.direction + bend) / level.binSize));
+  const double halfWidth = half(seeker.axis.x), halfHeight = half(seeker.axis.y);
+  const Bins bins(seeker.direction - bend, seeker.direction + bend, level);
   const std::int64_t right = cellAt(seeker.middle.x + halfWidth, level.cell);
   const std::int64_t top = cellAt(seeker.middle.y + halfHeight, level.cell);
-  for (std::int64_t any = firstBin; any <= std::min(lastBin, firstBin + bins - 1); ++any) {
-    const std::int64_t bin = (any + bins) % bins;
-    for (std::int64_t row = cellAt(seeker.middle.y - halfHeight, level.cell); row <= top; ++row) {
-      for (std::int64_t column = cellAt(seeker.middle.x - halfWidth, level.cell); column <= right; ++column) {
-        const Run* const run = runOf(slotOf(index, column, row, bin));
-        if (run == nullptr || seeker.isIn(*run)) continue;
-        const double offset = offsetIn(bin, level.binSize, seeker.middle);
-        if (hasPartnerIn(seeker, *run, offset, level.band)) return true;
-      }
+  for (std::int64_t row = cellAt(seeker.middle.y - halfHeight, level.cell); row <= top; ++row) {
+    for (std::int64_t column = cellAt(seeker.middle.x - halfWidth, level.cell); column <= right; ++column) {
+      if (hasPartnerIn(seeker, level, cellOf(index, column, row), bins)) return true;
     }
+  }
+  return false;
+}
+
+bool PieceIndex::hasPartnerIn(const Seeker& seeker, const Level& level, std::uint64_t cell,
+                              const Bins& bins) const {
+  for (std::size_t i = firstRunFrom(cell); i < runs_.size(); ++i) {
+    const Run& run = runs_[i];
+    if ((run.slot & ~kBinMask) != cell) return false;
+    const std::size_t bin = run.slot & kBinMask;
+    if (!bins.contain(bin) || seeker.isIn(run)) continue;
+    if (hasPartnerIn(seeker, run, cross(level.axes[bin], seeker.middle), level.band)) return true;
   }
   return false;
 }

@@ -29,7 +29,7 @@ class PieceIndex {
     double bend;     // radians between pieces that run along each other
     double binSize;  // radians
     double band;     // how far from a piece's line the middles of its partners lie, seen along a bin
-    bool isUsed = false;
+    std::vector<AIRealPoint> axes;  // by bin, of length 1 along its middle; none while no piece is here
   };
   struct Entry {
     std::uint64_t slot;
@@ -41,14 +41,16 @@ class PieceIndex {
     std::size_t first, end;  // of entries
   };
   struct Seeker;  // a piece that looks for another
+  struct Bins;    // some that are beside each other
 
   Level levelOf(double longest) const;
   std::size_t levelFor(double size) const;
   Entry entryOf(std::uint32_t piece);
   void findRuns();
-  const Run* runOf(std::uint64_t slot) const;  // null: nothing is there
+  std::size_t firstRunFrom(std::uint64_t slot) const;
   bool hasPartner(std::size_t place) const;
   bool hasPartnerIn(const Seeker& seeker, std::size_t level) const;
+  bool hasPartnerIn(const Seeker& seeker, const Level& level, std::uint64_t cell, const Bins& bins) const;
   bool hasPartnerIn(const Seeker& seeker, const Run& run, double offset, double band) const;
   std::size_t firstFrom(const Run& run, double offset) const;
   bool runsAlong(const LinePiece& other, const Seeker& seeker) const;
@@ -56,6 +58,7 @@ class PieceIndex {
   const LinePieces& lines_;
   OverlapLimits limits_;
   std::vector<Level> levels_;             // from the longest pieces to the shortest
+  std::vector<double> directions_;        // by piece
   std::vector<Entry> entries_;            // by slot, then by offset
   std::vector<Run> runs_;                 // by slot
   std::vector<std::uint32_t> firstRuns_;  // by the leading bits of a slot; one more at the end

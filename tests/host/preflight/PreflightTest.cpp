@@ -84,14 +84,15 @@ std::vector<Case> cases() {
        {"open-path"},
        "2 paths in Through Cut are open, the first at (40, 60) mm",
        2},
-      {"doubled: the other way round, otherwise divided, in part",
+      {"doubled: the other way round, otherwise divided, in part, one rising where the other falls",
        layer("Through Cut",
              cut(square) + cut("M100 40h-60v60h60z") + "<circle cx='150' cy='50' r='20'" + kCutPaint + "/>" +
                  cut("M164.142 64.142A20 20 0 0 1 135.858 35.858A20 20 0 0 1 164.142 64.142z") +
-                 cut("M100 150h40v20h-40z") + cut("M120 130h40v20.05h-40z") + cut("M10 100h30v30h-30z")),
+                 cut("M100 150h40v20h-40z") + cut("M120 130h40v20.05h-40z") + cut("M10 100h30v30h-30z") +
+                 cut("M150 100l40 .04v20h-40z") + cut("M150 100.04l40 -.04v-20h-40z")),
        {"doubled-line"},
-       "6 paths in Through Cut lie over each other",
-       6},
+       "8 paths in Through Cut lie over each other",
+       8},
       {"doubled beside a bundle",
        layer("Through Cut", bundle + cut("M10 10.45h40v40h-40z") + cut("M10 10.52h40v40h-40z")),
        {"doubled-line"},
