@@ -75,6 +75,7 @@ void SvgArtReader::readLayer(const SvgLayerPlan& plan) {
   layer.editable = !isTrue(source_.attribute(plan.source, XmlNamespace::Sodipodi, "insensitive"));
   layer.step = stepOfLayer(plan.source);
   reading_.remarkEffects(plan.source, context.style);
+  reading_.paints.remarkGroup(plan.source);
   readChildren(plan.source, context, root);
   Art art;
   art.type = kGroupArt;
@@ -123,6 +124,7 @@ void SvgArtReader::readContainer(NodeIndex element, SvgElementKind kind, const S
                                  ArtId parent, bool chosen) {
   const SvgContext context = contextInside(element, reading_.cascade.declaredFor(element), outer);
   const ArtId id = addArt(artOf(element, kGroupArt, context, chosen), parent);
+  reading_.paints.remarkGroup(element);
   ClipPointer viewport;
   if (kind == SvgElementKind::Group) readChildren(element, context, id);
   if (kind == SvgElementKind::Switch) readSwitch(element, context, id);

@@ -93,6 +93,14 @@ std::shared_ptr<const AIPathStyle> SvgPaints::pathStyle(NodeIndex element, const
   return pool_.share(path);
 }
 
+void SvgPaints::remarkGroup(NodeIndex group) {
+  for (const char* attribute : {kHostFill, kHostStroke}) {
+    if (!source_.attribute(group, XmlNamespace::Host, attribute)) continue;
+    remarks_.add(group, "its ch:" + std::string(attribute) +
+                            " does not count: only the paths in it can be painted in a custom colour");
+  }
+}
+
 void SvgPaints::setStroke(const SvgStyle& style, const AIRealMatrix& documentFromUser,
                           AIStrokeStyle& stroke) const {
   const double scale =

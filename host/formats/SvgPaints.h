@@ -23,6 +23,10 @@ class SvgPaints {
   std::shared_ptr<const AIPathStyle> pathStyle(NodeIndex element, const SvgStyle& style,
                                                const AIRealMatrix& documentFromUser);
 
+  // Says so if a group names a custom colour, which is not handed down as plain paints are: it belongs to the
+  // outlines that it is written on.
+  void remarkGroup(NodeIndex group);
+
  private:
   // One of the two paints of a style and what goes with it.
   struct Side {

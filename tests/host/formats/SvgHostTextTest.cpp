@@ -2,64 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "SvgNumber.h"
-#include "SvgStyleText.h"
 #include "TestDrawing.h"
 
 namespace host {
 namespace {
-
-TEST(SvgNumber, IsShortAndReadsBack) {
-  const std::pair<double, const char*> numbers[] = {{0, "0"},        {-0.0, "0"},
-                                                    {0.1, "0.1"},    {-1.0 / 3, "-0.3333333333333333"},
-                                                    {1e21, "1e+21"}, {5e-324, "5e-324"}};
-  for (const auto& [value, text] : numbers) {
-    EXPECT_EQ(numberText(value), text);
-    EXPECT_EQ(numberFrom(text), value);
-  }
-}
-
-TEST(SvgNumber, StandsAlone) {
-  EXPECT_EQ(numberFrom("\t2 "), 2);
-  EXPECT_EQ(numberFrom("2 3"), std::nullopt);
-}
-
-TEST(SvgStyleText, FindsTheLastDeclaration) {
-  constexpr char kStyle[] = "a:url(x;y); /* b:1; */ B : '2;' !important;b:3;; c";
-  EXPECT_EQ(styleProperty(kStyle, "a"), "url(x;y)");
-  EXPECT_EQ(styleProperty(kStyle, "b"), "3");
-  EXPECT_EQ(styleProperty("b:'2;' !important", "b"), "'2;'");
-  EXPECT_EQ(styleProperty(kStyle, "c"), std::nullopt) << "without a colon";
-  EXPECT_EQ(styleProperty(kStyle, "x"), std::nullopt);
-}
-
-TEST(SvgStyleText, ChangesOneProperty) {
-  EXPECT_EQ(withStyleProperty("a:1; b : 2 !important; c:3", "b", "x"), "a:1; b : x !important; c:3");
-  EXPECT_EQ(withStyleProperty("a:1; ", "b", "2"), "a:1;b:2;");
-  EXPECT_EQ(withStyleProperty("a:1", "b", "2"), "a:1;b:2");
-  EXPECT_EQ(withStyleProperty("", "b", "2"), "b:2");
-  EXPECT_EQ(withoutStyleProperty("b:0;a:1; b:2; c:3; B:4", "b"), "a:1; c:3;");
-  EXPECT_EQ(withoutStyleProperty("a:1", "b"), "a:1");
-}
-
-TEST(SvgHostText, ShowsPaintsInRgb) {
-  Document document;
-  AICustomColor lab{};
-  lab.kind = kCustomLabColor;
-  lab.c.lab = {53.585, 80.0, 67.0};  // close to sRGB red, https://www.w3.org/TR/css-color-4/#lab-samples
-  const CustomColorId red = document.addCustomColor("red", lab);
-  AIColor gray{};
-  gray.kind = kGrayColor;
-  gray.c.g.gray = 0.25;
-  EXPECT_EQ(fallbackRgb(gray, document), 0xBFBFBFU);
-  EXPECT_EQ(fallbackRgb(cmyk(0, 0, 0, 1), document), 0x000000U);
-  EXPECT_EQ(fallbackRgb(cmyk(1, 0.5, 0, 0.5), document), 0x004080U);
-  EXPECT_EQ(fallbackRgb(spot(document, red, 1), document), 0xFFFFFFU);
-  const std::uint32_t shown = fallbackRgb(spot(document, red, 0), document);
-  EXPECT_GT(shown >> 16, 0xF8U);
-  EXPECT_LT((shown >> 8) & 0xFF, 0x18U);
-  EXPECT_LT(shown & 0xFF, 0x18U);
-}
 
 TEST(SvgHostText, ReadsTheWordsItWrites) {
   Document document;
@@ -90,15 +36,16 @@ TEST(SvgHostText, RefusesWhatItDoesNotMean) {
   EXPECT_EQ(paintFrom("gray(7)", document)->c.g.gray, 1);
 }
 
-TEST(SvgHostText, ReportsSwatchesThatItCannotRead) {
+TEST(SvgHostText, ReportsWhatDoesNotCount) {
   const SvgDrawing drawing = readDrawing(
       "<svg xmlns='http://www.w3.org/2000/svg' xmlns:h='urn:x-corvane-host:drawing:1' width='9pt' "
       "height='9pt'>"
       "<metadata><h:swatches><h:color name='a' definition='lab(50 -100 100)' registration='true'/>"
       "<h:color name='a' definition='rgb(0 0 0)'/><h:swatch name='s' paint=\"custom('a' 0.5)\" group='3'/>"
-      "<h:swatch name='t' paint='red'/><other/></h:swatches></metadata></svg>");
-  ASSERT_EQ(drawing.remarks.size(), 3U);
+      "<h:swatch name='t' paint='red'/><other/></h:swatches></metadata><g h:fill='gray(1)'/></svg>");
+  ASSERT_EQ(drawing.remarks.size(), 4U);
   EXPECT_EQ(drawing.remarks[0].element, "color");
+  EXPECT_EQ(drawing.remarks[3].element, "g");
   const Document& document = *drawing.document;
   ASSERT_EQ(document.state().swatches.size(), 1U);
   const Swatch& swatch = *document.swatch(document.state().swatches[0]);
@@ -106,17 +53,6 @@ TEST(SvgHostText, ReportsSwatchesThatItCannotRead) {
   const CustomColor& color = *customColorOf(swatch.color, document);
   EXPECT_EQ(color.definition.flag, kCustomRegistrationColor);
   EXPECT_EQ(color.definition.c.lab.a, -100);
-}
-
-TEST(SvgPage, MeasuresInTheUnitOfItsWidth) {
-  const std::pair<const char*, AIRulerUnits> cases[] = {
-      {"10mm", kMillimeterRuler}, {"10cm", kCentimeterRuler}, {"10in", kInchRuler},
-      {"10pc", kPicaRuler},       {"10q", kQRuler},           {"10pt", kPointRuler},
-      {"10px", kPointRuler},      {"10", kPointRuler},        {"10%", kPointRuler}};
-  for (const auto& [width, expected] : cases) {
-    const std::string start = R"(<svg xmlns="http://www.w3.org/2000/svg" height="1in" width=")";
-    EXPECT_EQ(readDrawing(start + width + "\"/>").document->rulerUnits(), expected) << width;
-  }
 }
 
 }  // namespace
