@@ -147,7 +147,8 @@ class RandomEditor {
 
   void remove() {
     const ArtId id = anyArt();
-    document_.deleteArt(isLastPart(id) ? document_.art(id)->parent : id);
+    const ArtId parent = document_.art(id)->parent;
+    document_.deleteArt(isLastPart(id) ? parent : id);
   }
 
   void rename() {

@@ -1,10 +1,9 @@
 // Saving a changed drawing, in tables: what the file was, what changed, what the file is to be.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "TestDrawing.h"
 
@@ -17,9 +16,6 @@ struct SvgWriterCase {
   std::string after;
 };
 
-void PrintTo(const SvgWriterCase& example, std::ostream* stream);
-std::string caseName(const testing::TestParamInfo<SvgWriterCase>& info);
-
 // Declarations of namespaces, with a blank before each.
 constexpr char kInk[] = R"( xmlns:inkscape="http://www.inkscape.org/namespaces/inkscape")";
 constexpr char kHost[] = R"( xmlns:ch="urn:x-corvane-host:drawing:1")";
@@ -29,6 +25,7 @@ const std::string kBoth = std::string(kInk) + kHost;
 // A root element of 96 units each way with this content; a unit is 0.75 points.
 std::string file(const std::string& content, const std::string& rootAttributes = "");
 
-class SvgWriter : public testing::TestWithParam<SvgWriterCase> {};
+// Each case gives its bytes, nothing else, and goes back to those that were with the change undone.
+void expectSaved(const std::vector<SvgWriterCase>& cases);
 
 }  // namespace host

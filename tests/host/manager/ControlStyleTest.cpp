@@ -1,7 +1,5 @@
 // What controls look like, from what they paint and measure.
 #include <QCheckBox>
-#include <QDialog>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -10,13 +8,11 @@
 #include <climits>
 
 #include "Application.h"
-#include "QtManager.h"
 #include "ThemePalette.h"
 
 namespace {
 
 using host::Theme;
-using RVADMQtManager::QtManager;
 
 class ControlStyle : public WidgetTest {
  protected:
@@ -86,15 +82,6 @@ TEST_F(ControlStyle, TextsFitInEveryFontAndControlsAreOfOneHeight) {
     EXPECT_GE(contentsWidth(check, QStyle::SE_CheckBoxContents), needed.width()) << pixels;
     EXPECT_GE(contentsWidth(radio, QStyle::SE_RadioButtonContents), needed.width()) << pixels;
   }
-}
-
-TEST_F(ControlStyle, GroupsLeaveTheTitleToDialogsThatLayOutThemselves) {
-  QDialog own, plugIns;
-  QtManager::MakeDVAStyleAware(&plugIns, true);
-  QGroupBox inOwn(QStringLiteral("Placement"), &own), inPlugIns(QStringLiteral("Placement"), &plugIns);
-  for (QGroupBox* group : {&inOwn, &inPlugIns}) group->resize(200, 100);
-  EXPECT_EQ(inPlugIns.contentsRect(), inPlugIns.rect());
-  EXPECT_GE(inOwn.contentsRect().top(), inOwn.fontMetrics().height());
 }
 
 TEST_F(ControlStyle, ScrollThumbStaysInItsBar) {

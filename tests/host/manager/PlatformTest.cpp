@@ -31,6 +31,9 @@ TEST(Platform, NormalFormStaysInItsBuffer) {
       {"", 1, NormalFormResult::Done, ""},
       {note, 9, NormalFormResult::Done, composed},
       {note, 8, NormalFormResult::TooLong, note},
+      {"a\xCC\x82\xCC\xA3", 8, NormalFormResult::Done, "\xE1\xBA\xAD"},  // marks out of their order
+      {"\xEF\xAC\x81", 8, NormalFormResult::Done, "\xEF\xAC\x81"},       // a ligature is kept in form C
+      {"\xED\xA0\x80", 16, NormalFormResult::NotUTF8, "\xED\xA0\x80"},   // a surrogate
       {"caf\xE9", 16, NormalFormResult::NotUTF8, "caf\xE9"}};
   for (const auto& [text, size, result, after] : rows) {
     std::array<char, 32> buffer{};

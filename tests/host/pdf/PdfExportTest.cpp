@@ -31,11 +31,10 @@ std::string said(const std::string& command) {
 }
 
 std::string drawing(const std::string& swatches, const std::string& content,
-                    const std::string& size = "300pt", const std::string& box = "0 0 300 300") {
+                    const std::string& size = "300pt") {
   return R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:ch="urn:x-corvane-host:drawing:1")"
-         R"( xmlns:inkscape="http://www.inkscape.org/namespaces/inkscape")"
-         R"( xmlns:sodipodi="http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd" width=")" +
-         size + "\" height=\"" + size + "\" viewBox=\"" + box + "\"><metadata><ch:swatches>" + swatches +
+         R"( xmlns:inkscape="http://www.inkscape.org/namespaces/inkscape" width=")" +
+         size + "\" height=\"" + size + "\" viewBox=\"0 0 300 300\"><metadata><ch:swatches>" + swatches +
          "</ch:swatches></metadata>" + content + "</svg>";
 }
 
@@ -163,23 +162,6 @@ TEST_F(PdfExportTest, PathsKeepColourWidthAndOverprint) {
           "Cut: Separation(DeviceRGB,Cut) 1, 4 pt, op 1", "Top: DeviceRGB 1 0 0, fill, op 0"));
 }
 
-TEST_F(PdfExportTest, LayersKeepOrderStateAndSteps) {
-  PdfOptions options;
-  options.steps["Cut"] = "Structural/Cutting";
-  const std::string svg =
-      drawing(spot("Cut"), layer("Print", kPrint) + layer("Secret", kPrint, "style=\"display:none\"") +
-                               layer("Cut", line("Cut"), "sodipodi:insensitive=\"true\"") +
-                               layer("Cut", line("Cut")));
-  const std::string file = write("layers.pdf", exported(svg, options).bytes);
-  const std::string json = said("qpdf --json=2 --json-key=qpdf " + file);
-  EXPECT_THAT(json, HasSubstr("\"/GTS_ProcStepsType\": \"/Cutting\""));
-  const std::string groups = said("mutool show -g " + file + " grep | grep -c '/Type/OCG'");
-  EXPECT_EQ(groups, "4\n") << "equal titles stay apart";
-  EXPECT_THAT(said("mutool draw -F txt " + file), testing::Not(HasSubstr("Cut here\nCut here")))
-      << "one is hidden";
-  EXPECT_THAT(said("mutool draw -F txt " + file), HasSubstr("Cut here")) << "text is text";
-}
-
 std::string withoutDate(const std::string& tiff) {
   return std::regex_replace(tiff, std::regex("20\\d\\d:\\d\\d:\\d\\d \\d\\d:\\d\\d:\\d\\d"), "");
 }
@@ -232,28 +214,6 @@ TEST_F(PdfExportTest, PagesHaveTheirTrueSize) {
   }
 }
 
-TEST_F(PdfExportTest, ThingsThatAreOddComeThrough) {
-  std::string colours, lines;
-  for (int i = 0; i < 500; ++i) {
-    colours += spot("Spot " + std::to_string(i));
-    lines += line("Spot " + std::to_string(i));
-  }
-  const std::string cases[] = {
-      drawing(colours, layer("All", lines)),
-      drawing(spot("Cut"), layer("Cut",
-                                 "<path d=\"M5 5h0\" fill=\"none\" stroke=\"#f00\" stroke-linecap=\"round\" "
-                                 "ch:stroke=\"custom('Cut' 0)\"/>")),
-      drawing(spot("Cut"), layer("Cut", "<g transform=\"translate(9e6 9e6)\">" + line("Cut") + "</g>")),
-      drawing(spot("Cut"),
-              layer("Cut", "<g clip-path=\"url(#none)\" mask=\"url(#none)\">" + line("Cut") + "</g>")),
-      drawing({}, {})};
-  for (const std::string& svg : cases) {
-    const PdfFile file = exported(svg);
-    EXPECT_THAT(said("qpdf --check " + write("odd.pdf", file.bytes)), testing::Not(HasSubstr("exit")));
-    EXPECT_TRUE(exported(svg).bytes == file.bytes) << "the same drawing gives the same bytes";
-  }
-}
-
 // The proof compares with the drawing that the file is not of.
 TEST_F(PdfExportTest, TheProofNamesWhatDiffers) {
   const std::string svg = drawing(spot("Cut") + spot("Kiss"), layer("A", line("Cut", "id=\"edge\"")));
@@ -268,6 +228,7 @@ TEST_F(PdfExportTest, TheProofNamesWhatDiffers) {
       {"id=\"edge\"", "id=\"edge\" stroke-width=\"2\"", "\"edge\" has another width"},
       {"M20 20H280", "M20 20H281", "\"edge\" lies elsewhere or has another size"},
       {"inkscape:label=\"A\"", "inkscape:label=\"B\"", "the layers are not as in the drawing"},
+      {"inkscape:label=\"A\"", "inkscape:label=\"A\" style=\"display:none\"", "the layers are not as in"},
       {"width=\"300pt\"", "width=\"301pt\" preserveAspectRatio=\"none\"", "has another size"},
       {"</g>", line("Cut", "id=\"more\"") + "</g>", "\"more\" is missing"}};
   for (const Case& row : cases) {
@@ -275,37 +236,6 @@ TEST_F(PdfExportTest, TheProofNamesWhatDiffers) {
     if (!row.from.empty()) other.replace(other.find(row.from), row.from.size(), row.to);
     auto read = readSvg(other, nullptr);
     ASSERT_TRUE(std::holds_alternative<SvgDrawing>(read)) << row.to;
-    EXPECT_THAT(proofOf(bytes, std::get<SvgDrawing>(read), {}), HasSubstr(row.difference)) << row.to;
-  }
-}
-
-// The same bytes, damaged behind their maker's back.
-TEST_F(PdfExportTest, TheProofSeesDamage) {
-  const std::string svg = drawing(
-      spot("Cut"),
-      layer(
-          "A",
-          line("Cut", "id=\"edge\" stroke-width=\"2.5\"") +
-              "<path id=\"area\" d=\"M1 1H9V9Z M3 3H5V5Z\" fill=\"#ff0000\" ch:fill=\"custom('Cut' 0)\"/>"));
-  const auto read = readSvg(svg, nullptr);
-  const std::string whole = write("whole.pdf", exported(svg).bytes);
-  ASSERT_EQ(said("qpdf --qdf --object-streams=disable " + whole + " " + scratch_.file("plain.pdf")), "");
-  const std::string plain = scratch_.read("plain.pdf");
-  struct Case {
-    std::string from, to, difference;
-  };
-  const Case cases[] = {{"2.5 w", "2.6 w", "\"edge\" has another width"},
-                        {"/Separation\n  /Cut", "/Separation\n  /Cat", "the colour \"Cat\", not \"Cut\""},
-                        {"/OP true", "/OP null", "\"edge\" does not overprint"},
-                        {"20 280 m", "20 281 m", "\"edge\" lies elsewhere"},
-                        {"1 299 m", "2 299 m", "\"area\" lies elsewhere"},
-                        {"h\nf\n", "h\nn\n", "\"area\" is missing"},
-                        {"/Name (A)", "/Name (B)", "the layers are not as"}};
-  for (const Case& row : cases) {
-    std::string bytes = plain;
-    const std::size_t at = bytes.find(row.from);
-    ASSERT_NE(at, std::string::npos) << row.from;
-    bytes.replace(at, row.from.size(), row.to);
     EXPECT_THAT(proofOf(bytes, std::get<SvgDrawing>(read), {}), HasSubstr(row.difference)) << row.to;
   }
 }
@@ -321,7 +251,8 @@ TEST_F(PdfExportTest, PrintAndCutAreApartAndMarksInBoth) {
       "<rect width=\"9\" height=\"9\" fill=\"#00f\" stroke=\"#ff0000\" "
       "ch:stroke=\"custom('Cut' 0)\"/>";
   const std::string svg =
-      drawing(spot("Cut"), layer("Print", kPrint) + layer("Cut", line("Cut")) + layer("Mixed", both) +
+      drawing(spot("Cut"), layer("Print", kPrint) + layer("Secret", kPrint, "style=\"display:none\"") +
+                               layer("Cut", line("Cut")) + layer("Mixed", both) +
                                layer("Regmark", "<circle r=\"9\" fill=\"#000\" ch:fill=\"gray(1)\"/>"));
   const std::pair<PdfPart, std::string> cases[] = {{PdfPart::Whole, "Regmark Mixed Cut Print, 2 cuts"},
                                                    {PdfPart::Print, "Regmark Mixed Print, 0 cuts"},

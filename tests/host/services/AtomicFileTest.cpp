@@ -1,13 +1,9 @@
 #include "AtomicFile.h"
 #include "ScratchFolder.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
@@ -77,39 +73,6 @@ TEST_F(AtomicFile, SaysWhyAFileCannotBeReplacedAndLeavesNothing) {
   EXPECT_EQ(replaceFile(at("folder/" + std::string(255, 'n')), "1"), "") << "no room for another name";
   EXPECT_EQ(replaceFile("/dev/full", "1"), "the disk is full");
   EXPECT_EQ(scratch_.count(), 3U);
-}
-
-void limitFiles() {
-  const struct rlimit small { 4096, RLIM_INFINITY };
-  ::setrlimit(RLIMIT_FSIZE, &small);
-}
-
-TEST_F(AtomicFile, KeepsTheOldFileIfTheDiskTakesOnlyAPart) {
-  scratch_.write("f", "old");
-  struct rlimit before {};
-  ::getrlimit(RLIMIT_FSIZE, &before);
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  limitFiles();
-  const auto error = replaceFile(at("f"), std::string(100000, 'n'));
-  ::setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
-  EXPECT_EQ(error, "the file is too large");
-  EXPECT_EQ(content(at("f")), "old");
-  EXPECT_EQ(scratch_.count(), 1U);
-}
-
-TEST_F(AtomicFile, LeavesNothingBehindWhenItIsKilled) {
-  const int nameless = ::open(scratch_.path.c_str(), O_TMPFILE | O_WRONLY, 0600);
-  if (nameless < 0) GTEST_SKIP() << "this file system has no files without a name";
-  ::close(nameless);
-  scratch_.write("f", "old");
-  const auto save = [this] {
-    limitFiles();  // the signal comes in the middle of the file
-    replaceFile(at("f"), std::string(100000, 'n'));
-  };
-  EXPECT_EXIT(save(), testing::KilledBySignal(SIGXFSZ), "");
-  EXPECT_EQ(content(at("f")), "old");
-  EXPECT_EQ(scratch_.count(), 1U);
 }
 
 TEST_F(AtomicFile, SaysWhyAFileCannotBeRead) {

@@ -10,17 +10,11 @@
 
 #include "CanvasFixture.h"
 #include "CanvasPlace.h"
-#include "PictureRenderer.h"
 
 namespace host {
 namespace {
 
-using std::chrono::seconds;
-
-constexpr char kHead[] =
-    "<svg xmlns=\"http://www.w3.org/2000/svg\" "
-    "xmlns:inkscape=\"http://www.inkscape.org/namespaces/inkscape\" "
-    "xmlns:sodipodi=\"http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd\" ";
+constexpr char kHead[] = "<svg xmlns=\"http://www.w3.org/2000/svg\" ";
 
 // Half red, with a gradient and a clip beside it.
 std::string smallDrawing() {
@@ -76,25 +70,6 @@ TEST(Canvas, IsSharpWhateverItShows) {
     ASSERT_FALSE(sheet.isEmpty());
     EXPECT_TRUE(shown.copy(sheet) == direct.copy(sheet));
   }
-}
-
-TEST(Canvas, ShowsSheetsApartAndWhatLiesBetween) {
-  OpenCanvas canvas(
-      kHead +
-      std::string("width=\"100pt\" height=\"100pt\" viewBox=\"0 0 100 100\"><sodipodi:namedview>"
-                  "<inkscape:page x=\"0\" y=\"0\" width=\"100\" height=\"100\"/>"
-                  "<inkscape:page x=\"150\" y=\"0\" width=\"100\" height=\"100\"/></sodipodi:namedview>"
-                  "<rect x=\"120\" y=\"40\" width=\"60\" height=\"20\" fill=\"#00ff00\"/></svg>"));
-  const QImage shown = canvas.view().grab().toImage();
-  const auto colourAt = [&](double x, double y) {
-    const AIRealPoint at = canvas.place().toPixels({x, y});
-    return shown.pixelColor(static_cast<int>(at.x), static_cast<int>(at.y));
-  };
-  EXPECT_EQ(colourAt(50, 50), QColor(Qt::white));
-  EXPECT_EQ(colourAt(200, 80), QColor(Qt::white));
-  EXPECT_EQ(colourAt(170, 50), QColor(Qt::green));
-  EXPECT_EQ(colourAt(135, 50), QColor(Qt::green)) << "art between the sheets";
-  EXPECT_EQ(colourAt(125, 80), shown.pixelColor(5, 5)) << "the pasteboard";
 }
 
 // What a user does, and where that which was in the middle of the view goes, in pixels.
@@ -217,41 +192,6 @@ TEST(Canvas, TheScreenGetsSharpByItselfAfterAChange) {
   view.refresh();
   EXPECT_TRUE(QTest::qWaitFor([&] { return onScreen() != QColor(Qt::red); }, 20000));
   EXPECT_TRUE(view.isSharp());
-}
-
-TEST(Canvas, OnlyTheLatestRequestCounts) {
-  OpenCanvas canvas(slowDrawing());
-  const OpenDrawing& drawing = canvas.drawing;
-  QObject receiver;
-  int calls = 0;
-  PictureRenderer renderer(receiver, [&] { ++calls; });
-  renderer.load({pictureSource(drawing.drawing, writeSvg(drawing.drawing), {}), {}});
-  constexpr int kRequests = 30;
-  for (int i = 1; i <= kRequests; ++i) {
-    renderer.draw(PictureRenderer::kSharp, {1, 20.0 * i, 20.0 * i, {0, 0, 20, 20}});
-  }
-  ASSERT_TRUE(renderer.wait(PictureRenderer::kSharp, seconds(60)));
-  const std::optional<DrawnPicture> drawn = renderer.take(PictureRenderer::kSharp);
-  ASSERT_TRUE(drawn);
-  EXPECT_EQ(drawn->cut.width, 20.0 * kRequests);
-  EXPECT_EQ(drawn->image.size(), QSize(20, 20));
-  EXPECT_FALSE(renderer.take(PictureRenderer::kSharp));
-  QCoreApplication::processEvents();
-  EXPECT_GE(calls, 1);
-  EXPECT_LE(calls, 3) << "those between were never drawn";
-}
-
-TEST(Canvas, LearnsHowLargePicturesMayBe) {
-  DrawingPace pace;
-  EXPECT_EQ(pace.pixelsWithin(400), 0);
-  pace.note(1000, 200);
-  EXPECT_NEAR(pace.pixelsWithin(400), 2000, 1e-6) << "at worst every pixel costs";
-  pace.note(1100, 300);
-  EXPECT_NEAR(pace.pixelsWithin(300), 1100, 1e-6) << "too much alike to learn from";
-  pace.note(3000, 400);
-  EXPECT_NEAR(pace.pixelsWithin(419), 3361, 1e-6) << "100 ms for 1900 pixels more";
-  pace.note(6000, 390);
-  EXPECT_TRUE(std::isinf(pace.pixelsWithin(391))) << "it is the paths";
 }
 
 TEST(Canvas, ClosesWhileItIsDrawn) {

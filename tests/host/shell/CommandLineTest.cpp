@@ -15,30 +15,6 @@ std::variant<CommandLine, ExitCode> parse(std::vector<std::string> words) {
   return parseCommandLine(static_cast<int>(argv.size()), argv.data());
 }
 
-TEST(CommandLine, WithoutACommandTheWindowOpens) {
-  const auto bare = parse({});
-  ASSERT_TRUE(std::holds_alternative<CommandLine>(bare));
-  EXPECT_TRUE(std::get<WindowArguments>(std::get<CommandLine>(bare).command).files.empty());
-
-  const auto full =
-      parse({"a.svg", "--screenshot", "w.png", "dir/b", "--language", "pt_br", "--theme", "dark", "-"});
-  ASSERT_TRUE(std::holds_alternative<CommandLine>(full));
-  const CommandLine& line = std::get<CommandLine>(full);
-  const WindowArguments& window = std::get<WindowArguments>(line.command);
-  EXPECT_THAT(window.files, testing::ElementsAre("a.svg", "dir/b", "-"));
-  EXPECT_EQ(window.screenshot, "w.png");
-  EXPECT_EQ(line.common.language, "pt-BR");
-  EXPECT_EQ(line.common.theme, "dark");
-}
-
-TEST(CommandLine, CommandsKeepTheirArguments) {
-  const auto parsed = parse({"marks", "a.svg", "b.svg", "--out-dir", "out", "--language", "de"});
-  ASSERT_TRUE(std::holds_alternative<CommandLine>(parsed));
-  const CommandLine& line = std::get<CommandLine>(parsed);
-  EXPECT_THAT(std::get<MarksArguments>(line.command).inputs, testing::ElementsAre("a.svg", "b.svg"));
-  EXPECT_EQ(line.common.language, "de");
-}
-
 TEST(CommandLine, MisuseIsOneSentence) {
   struct Row {
     std::vector<std::string> words;

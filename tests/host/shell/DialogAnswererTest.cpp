@@ -3,15 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
 #include <QDialog>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSlider>
-#include <QSpinBox>
-#include <QTextEdit>
 #include <QVBoxLayout>
 #include <functional>
 #include <optional>
@@ -26,17 +21,13 @@ class PlainDialog : public QDialog {
  public:
   explicit PlainDialog(const QString& title = " ") : rows_(new QVBoxLayout(this)) { setWindowTitle(title); }
 
-  template <typename Widget>
-  PlainDialog& with(Widget* widget) {
-    rows_->addWidget(widget);
-    return *this;
-  }
   PlainDialog& withButton(bool isDefault, const std::function<void()>& clicked) {
     auto* button = new QPushButton("Go");
     button->setAutoDefault(isDefault);
     button->setDefault(isDefault);
     connect(button, &QPushButton::clicked, this, clicked);
-    return with(button);
+    rows_->addWidget(button);
+    return *this;
   }
 
   std::function<void()> onReturn, onReject;
@@ -84,25 +75,6 @@ TEST_F(DialogAnswererTest, TheDefaultButtonElseReturnIsTheAnswer) {
   box.setDefaultButton(QMessageBox::No);
   EXPECT_EQ(box.exec(), QMessageBox::No);
   EXPECT_EQ(said(), std::vector<std::string>{"Sure?\nReally & truly?"});
-}
-
-TEST_F(DialogAnswererTest, OnlyADialogWithoutFieldsIsAMessage) {
-  auto* readOnly = new QTextEdit;
-  readOnly->setPlainText("A long\nstory.");
-  readOnly->setReadOnly(true);
-  auto* hidden = new QLabel("never seen");
-  PlainDialog message("Notes");
-  message.with(new QLabel("First")).with(hidden).with(readOnly).with(new QCheckBox("Not again"));
-  hidden->hide();
-  message.withButton(true, [&] { message.accept(); });
-  EXPECT_EQ(message.exec(), QDialog::Accepted);
-  EXPECT_EQ(said(), std::vector<std::string>{"Notes\nFirst\nA long\nstory."});
-  for (QWidget* field : std::initializer_list<QWidget*>{new QSpinBox, new QTextEdit, new QSlider}) {
-    PlainDialog options("Options");
-    options.with(new QLabel("Size:")).with(field).withButton(true, [&] { options.accept(); });
-    EXPECT_EQ(options.exec(), QDialog::Accepted);
-  }
-  EXPECT_EQ(said().size(), 1U);
 }
 
 TEST_F(DialogAnswererTest, ADialogThatStaysIsCancelledInTheEnd) {

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDoubleSpinBox>
 #include <QListWidget>
@@ -70,7 +69,7 @@ class PickersTest : public testing::Test {
                                                     document->addCustomColor("Cut", magenta));
     const SwatchGroupId group = document->addSwatchGroup(-1);
     document->editSwatchGroup(group).name = "Line types";
-    cutSwatch = document->addSwatch(group, cut, "Cut");
+    document->addSwatch(group, cut, "Cut");
     document->addSwatch(0, paintOf(kThreeColor, {1, 0, 0}), "");
     host.documents().open(document, "drawing");
   }
@@ -87,12 +86,10 @@ class PickersTest : public testing::Test {
       if (picker->isVisible()) picker->QDialog::done(QDialog::Rejected);
     });
   }
-  std::optional<AIColor> pick(const AIColor& before, const std::function<void(PaintPicker&)>& act,
-                              SwatchId first = 0) {
+  std::optional<AIColor> pick(const AIColor& before, const std::function<void(PaintPicker&)>& act) {
     whenUp(act);
     AIColor paint = before;
-    const bool accepted =
-        host.pickPaint(makeHandle<AISwatchRef>(HandleKind::Swatch, document->serial(), first), paint);
+    const bool accepted = host.pickPaint(nullptr, paint);
     EXPECT_EQ(RVADMQtManager::QtManager::DialogCount(), 0);
     EXPECT_TRUE(accepted || isSamePaint(paint, before));
     return accepted ? std::optional(paint) : std::nullopt;
@@ -112,7 +109,6 @@ class PickersTest : public testing::Test {
   std::optional<Pickers> pickers;
   std::shared_ptr<Document> document = std::make_shared<Document>();
   AIColor cut{};
-  SwatchId cutSwatch = 0;
 };
 
 void pressReturn(QWidget& picker) {
@@ -163,46 +159,6 @@ TEST_F(PickersTest, ThePaintIsWhatTheUserMadeOfIt) {
     });
     EXPECT_FALSE(refused);
   }
-}
-
-TEST_F(PickersTest, SwatchesStandUnderTheirGroupsFromTheGivenOneOn) {
-  for (int i = 0; i < 50; ++i) document->addSwatch(0, paintOf(kGrayColor, {1}), "Spare");
-  pick(
-      cut,
-      [&](PaintPicker& picker) {
-        const QListWidget& list = listOf(picker);
-        EXPECT_EQ(list.item(1)->text(), "RGB 255, 0, 0") << "without a name of its own";
-        EXPECT_EQ(list.item(52)->text(), "Line types");
-        EXPECT_EQ(list.currentItem()->text(), "Cut");
-      },
-      2);
-  pick(
-      kThirds,
-      [&](PaintPicker& picker) {
-        turnTo(picker, 0);
-        EXPECT_EQ(listOf(picker).currentItem()->text(), "Cut");
-        EXPECT_TRUE(listOf(picker).selectedItems().isEmpty());
-      },
-      cutSwatch);
-  host.documents().close(*document);
-  pick(kThirds, [](PaintPicker& picker) { EXPECT_EQ(listOf(picker).count(), 1); });
-}
-
-TEST_F(PickersTest, EverythingThatTakesKeysHasAName) {
-  const auto check = [](QWidget& picker) {
-    for (QWidget* part : picker.findChildren<QWidget*>()) {
-      const bool takesKeys = (part->focusPolicy() & Qt::TabFocus) != 0 && part->focusProxy() == nullptr;
-      if (!part->isVisible() || !takesKeys || qobject_cast<QAbstractSpinBox*>(part->parent())) continue;
-      const QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(part);
-      EXPECT_FALSE(accessible->text(QAccessible::Name).isEmpty()) << part->metaObject()->className();
-    }
-  };
-  pick(cut, [&](PaintPicker& picker) {
-    for (const int page : {0, 1, 2, 3}) {
-      turnTo(picker, page);
-      check(picker);
-    }
-  });
 }
 
 TEST_F(PickersTest, AnRGBColourKeepsTheBitsThatTheDialogDoesNotShow) {

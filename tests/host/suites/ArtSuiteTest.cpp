@@ -30,16 +30,6 @@ class ArtSuiteTest : public HostFixture {
   using Handles = std::vector<AIArtHandle>;
 };
 
-TEST_F(ArtSuiteTest, PaintOrderRunsFromTheTop) {
-  const AIArtHandle a = newArt(kPathArt);
-  const AIArtHandle b = newArt(kPathArt);
-  const AIArtHandle c = newArt(kPathArt, kPlaceBelow, b);
-  const AIArtHandle d = newArt(kPathArt, kPlaceAbove, a);
-  const AIArtHandle e = newArt(kPathArt, kPlaceInsideOnBottom, root());
-  const AIArtHandle f = newArt(kPathArt, kPlaceInsideOnTop, root());
-  EXPECT_EQ(childrenOf(root()), (Handles{f, b, c, d, a, e}));
-}
-
 TEST_F(ArtSuiteTest, OnlyGroupsAndCompoundPathsHoldArt) {
   const AIArtHandle path = newArt(kPathArt);
   const AIArtHandle compound = newArt(kCompoundPathArt);
@@ -83,17 +73,6 @@ TEST_F(ArtSuiteTest, CopiesWithAllThatArtHolds) {
   EXPECT_EQ(style.fillPaint, 1);
   ASSERT_EQ(childrenOf(copy).size(), 1U);
   EXPECT_EQ(childrenOf(childrenOf(copy)[0]).size(), 1U);
-
-  AILayerHandle upper = nullptr;
-  EXPECT_EQ(layers.InsertLayer(nullptr, kPlaceAboveAll, &upper), kNoErr);
-  AIArtHandle upperRoot = nullptr;
-  EXPECT_EQ(art.GetFirstArtOfLayer(upper, &upperRoot), kNoErr);
-  AIArtHandle lowerRoot = nullptr;
-  EXPECT_EQ(art.GetArtParent(group, &lowerRoot), kNoErr);
-  EXPECT_EQ(art.DuplicateArt(lowerRoot, kPlaceBelow, upperRoot, &copy), kNoErr) << "a whole layer";
-  EXPECT_EQ(document->state().layers.size(), 3U);
-  EXPECT_EQ(document->layer(document->state().layers[1])->title, "Layer 1");
-  EXPECT_EQ(childrenOf(copy).size(), 3U);
 }
 
 TEST_F(ArtSuiteTest, LockedAndHiddenLayersAreLeftAlone) {

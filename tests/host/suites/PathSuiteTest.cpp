@@ -58,18 +58,6 @@ TEST_F(PathSuiteTest, TakesFiniteCoordinatesOnly) {
   EXPECT_EQ(xs(path), (Numbers{0, 1, 1, 0}));
 }
 
-TEST_F(PathSuiteTest, IsForPathsAlone) {
-  const AIPathSegment segment{};
-  AIBoolean closed = 0;
-  std::int16_t count = 0;
-  AIPathStyle style{};
-  const AIArtHandle group = newArt(kGroupArt);
-  EXPECT_TRUE(each(kWrongKindErr, paths.GetPathSegmentCount(group, &count),
-                   paths.SetPathSegments(group, 0, 1, &segment), paths.GetPathClosed(group, &closed),
-                   paths.SetPathClosed(group, 1), styles.GetPathStyle(group, &style),
-                   styles.SetPathStyle(group, &style), paths.SetPathClosed(newArt(kCompoundPathArt), 1)));
-}
-
 // A path that grows segment by segment is changed in place, but never in what undo goes back to.
 TEST_F(PathSuiteTest, UndoGoesBackToTheLengthAtEachStep) {
   const AIArtHandle path = newArt(kPathArt);

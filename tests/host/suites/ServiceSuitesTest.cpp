@@ -1,6 +1,8 @@
-// Suites over strings, preferences, files and alerts.
+// Suites over strings, preferences, colours, files and alerts.
+#include <cmath>
 #include <filesystem>
 
+#include "AIColorConversion.h"
 #include "AIDataFilter.h"
 #include "AIPreference.h"
 #include "AIUser.h"
@@ -39,6 +41,28 @@ TEST_F(ServiceSuitesTest, PreferenceStringsAreCutBeforeACharacter) {
     EXPECT_EQ(buffer[size], size < 6 ? '#' : 0) << size;
     EXPECT_EQ(keys.GetStringPreference("P", "s", buffer, 0), kBadParameterErr);
   }
+}
+
+TEST_F(ServiceSuitesTest, ColoursAreFiniteAndOfTheFourSpaces) {
+  const auto& colors = ACQUIRE(AIColorConversionSuite);
+  const float good[4] = {}, nan[] = {0, NAN, 0}, infinite[] = {0, 0, -INFINITY};
+  float result[4] = {-1, -1, -1, -1};
+  AIBoolean inGamut = 7;
+  const auto convert = [&](int source, const float* sample, int destination, float* to, int options = 0) {
+    return colors.ConvertSample(static_cast<AIColorSpace>(source), sample,
+                                static_cast<AIColorSpace>(destination), to,
+                                static_cast<AIConversionOptions>(options), &inGamut);
+  };
+  for (const int space : {-1, 0, 3, 5, 8}) {
+    EXPECT_EQ(convert(space, good, kRGBSpace, result), kBadParameterErr) << space;
+    EXPECT_EQ(convert(kRGBSpace, good, space, result), kBadParameterErr) << space;
+  }
+  EXPECT_TRUE(
+      each(kBadParameterErr, convert(kRGBSpace, nan, kCMYKSpace, result),
+           convert(kRGBSpace, infinite, kCMYKSpace, result), convert(kRGBSpace, nullptr, kRGBSpace, result),
+           convert(kRGBSpace, good, kRGBSpace, nullptr), convert(kRGBSpace, good, kRGBSpace, result, 1)));
+  EXPECT_EQ(result[0], -1);
+  EXPECT_EQ(inGamut, 7);
 }
 
 TEST_F(ServiceSuitesTest, AlertsReachTheUser) {

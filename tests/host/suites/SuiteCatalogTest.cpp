@@ -8,25 +8,9 @@ namespace {
 
 class SuiteCatalogTest : public HostFixture {};
 
-TEST_F(SuiteCatalogTest, OffersEverySuiteInItsVersionAndNoOther) {
-  for (const host::SuiteOffer& offer : host::suiteCatalog()) {
-    for (const std::int32_t version : {offer.version - 1, offer.version, offer.version + 1}) {
-      const void* table = this;
-      const SPErr code = host.basic()->AcquireSuite(offer.name, version, &table);
-      const bool right = version == offer.version;
-      EXPECT_EQ(code, right ? kSPNoError : kSPSuiteNotFoundError) << offer.name << " " << version;
-      EXPECT_EQ(table != nullptr, right) << offer.name << " " << version;
-    }
-  }
-  const void* table = nullptr;
-  for (const char* name : {"", "AI Art", "AI Art Suite ", "ai art suite"}) {
-    EXPECT_EQ(host.basic()->AcquireSuite(name, kAIArtSuiteVersion, &table), kSPSuiteNotFoundError) << name;
-  }
-}
-
 // A slot left empty would crash the plug-in that calls it; a name given twice or forgotten would make
 // refusals hit the wrong call.
-TEST_F(SuiteCatalogTest, TablesAreFullAndEntriesNamedOnce) {
+TEST_F(SuiteCatalogTest, TablesAreFullEntriesNamedOnceAndVersionsExact) {
   for (const host::SuiteOffer& offer : host::suiteCatalog()) {
     ASSERT_NE(offer.table, nullptr) << offer.name;
     std::set<std::string> names;
@@ -36,22 +20,28 @@ TEST_F(SuiteCatalogTest, TablesAreFullAndEntriesNamedOnce) {
       EXPECT_STREQ(offer.entries[i]->suite, offer.name);
       EXPECT_TRUE(names.insert(offer.entries[i]->name).second) << offer.name << " " << offer.entries[i]->name;
     }
+    for (const std::int32_t version : {offer.version - 1, offer.version + 1}) {
+      const void* table = this;
+      EXPECT_EQ(host.basic()->AcquireSuite(offer.name, version, &table), kSPSuiteNotFoundError) << offer.name;
+      EXPECT_EQ(table, nullptr) << offer.name;
+    }
   }
   EXPECT_EQ(host::findSuite(kAIArtSuite)->entries.size() * sizeof(void*), sizeof(AIArtSuite));
   EXPECT_EQ(host::findSuite(kAILayerSuite)->entries.size() * sizeof(void*), sizeof(AILayerSuite));
   EXPECT_EQ(host::findSuite(kSPBasicSuite)->entries.size() * sizeof(void*), sizeof(SPBasicSuite));
 }
 
-TEST_F(SuiteCatalogTest, BasicSuiteAllocatesWhatItCan) {
-  const SPBasicSuite& basic = *host.basic();
-  EXPECT_EQ(basic.IsEqual("AI Menu", "AI menu"), 0);
-  EXPECT_EQ(basic.IsEqual(nullptr, nullptr), 0);
-  void* block = nullptr;
-  EXPECT_EQ(basic.AllocateBlock(0, &block), kSPNoError);
-  EXPECT_NE(block, nullptr);
-  EXPECT_TRUE(each(kSPNoError, basic.FreeBlock(block), basic.FreeBlock(nullptr)));
-  EXPECT_EQ(basic.AllocateBlock(~std::size_t{0}, &block), kSPOutOfMemoryError);
-  EXPECT_EQ(block, nullptr);
+TEST_F(SuiteCatalogTest, ARuleOfRefusalNamesACallThatThereIs) {
+  const std::pair<const char*, const char*> cases[] = {{"", "no suite \"\""},
+                                                       {"AI Art Suite:NewArtt", "no entry \"NewArtt\""},
+                                                       {"AI Art Suite:", "no entry \"\""},
+                                                       {"AI Tag Suite:Show", "no entry \"Show\""},
+                                                       {"AI Art Suite:NewArt:0", "\"0\""},
+                                                       {"AI Art Suite:NewArt:3rd", "\"3rd\""},
+                                                       {"SP Basic Suite:IsEqual", "no result"}};
+  for (const auto& [rule, complaint] : cases) {
+    EXPECT_THAT(host.refusal().add(rule), testing::HasSubstr(complaint)) << rule;
+  }
 }
 
 TEST(HostTest, NothingOfAHostLivesOnInTheNext) {

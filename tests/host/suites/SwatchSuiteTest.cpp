@@ -1,9 +1,7 @@
 #include <cmath>
-#include <tuple>
 
 #include "AICustomColor.h"
 #include "AISwatchGroup.h"
-#include "AISwatchList.h"
 #include "HostFixture.h"
 
 namespace {
@@ -24,14 +22,8 @@ class SwatchSuiteTest : public HostFixture {
     EXPECT_EQ(colors.NewCustomColor(&definition, text(name), &color.c.c.color), kNoErr);
     return color;
   }
-  std::string nameOf(AISwatchRef swatch) {
-    const AIUnicodeStringHandle name = text();
-    EXPECT_EQ(swatches.GetSwatchName(swatch, name), kNoErr);
-    return read(name);
-  }
 
   const AICustomColorSuite& colors = ACQUIRE(AICustomColorSuite);
-  const AISwatchListSuite& swatches = ACQUIRE(AISwatchListSuite);
   const AISwatchGroupSuite& groups = ACQUIRE(AISwatchGroupSuite);
 };
 
@@ -51,27 +43,6 @@ TEST_F(SwatchSuiteTest, CustomColoursHaveNamesOfTheirOwn) {
   EXPECT_EQ(colors.GetCustomColor(cut.c.c.color, &kept), kNoErr);
   EXPECT_EQ(kept.c.f.magenta, 1);
   EXPECT_EQ(kept.flag, kCustomSpotColor);
-}
-
-TEST_F(SwatchSuiteTest, GroupsAreFilledInOrderAndSearchedByNameAndKind) {
-  const AISwatchGroupRef group = groups.NewGroup(nullptr, kAISwatchGroupKindPlain, -1);
-  EXPECT_EQ(groups.GetGroupByName(nullptr, text("Lines")), nullptr);
-  EXPECT_EQ(groups.SetGroupName(group, text("Lines")), kNoErr);
-  EXPECT_EQ(groups.GetGroupByName(nullptr, text("Lines")), group);
-  const AIColor grey{}, color = customColor("Cut");
-  const AISwatchRef plain = groups.AddSwatch(group, &grey, 0), custom = groups.AddSwatch(group, &color, 0);
-  EXPECT_EQ(nameOf(plain), "");
-  EXPECT_EQ(nameOf(custom), "Cut");
-  ASSERT_EQ(swatches.SetSwatchName(plain, text("Cut")), kNoErr);
-  const AISwatchRef expected[] = {nullptr, plain, custom, nullptr};
-  for (std::int32_t i = -1; i < 3; ++i) EXPECT_EQ(swatches.GetNthSwatch(nullptr, i), expected[i + 1]) << i;
-  const std::tuple<const char*, AIColorTag, AISwatchRef> searches[] = {{"Cut", kCustomColor, custom},
-                                                                       {"Cut", kGrayColor, plain},
-                                                                       {"Cut", kFourColor, nullptr},
-                                                                       {"cut", kCustomColor, nullptr}};
-  for (const auto& [name, kind, found] : searches) {
-    EXPECT_EQ(swatches.GetSwatchByNameAndType(nullptr, text(name), kind), found) << name << kind;
-  }
 }
 
 TEST_F(SwatchSuiteTest, ACustomColourIsValidInItsOwnDocumentAlone) {

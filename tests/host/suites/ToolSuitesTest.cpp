@@ -1,11 +1,9 @@
-// Suites over tools, their pointer and what annotators draw.
+// Suites over tools and what annotators draw.
 #include <cmath>
 #include <limits>
-#include <tuple>
 
 #include "AIAnnotatorDrawer.h"
 #include "AITool.h"
-#include "AIUser.h"
 #include "AnnotationCanvas.h"
 #include "HostFixture.h"
 #include "MessageDrawer.h"
@@ -32,32 +30,14 @@ struct RecordingCanvas : host::AnnotationCanvas {
 
 class ToolSuitesTest : public HostFixture {
  protected:
-  AIToolHandle add(const char* name) {
-    host::ToolRecord tool;
-    tool.name = name;
-    return host.tools().add(tool).handle;
-  }
-
   const AIToolSuite& tools = ACQUIRE(AIToolSuite);
   const AIAnnotatorSuite& annotators = ACQUIRE(AIAnnotatorSuite);
   const AIAnnotatorDrawerSuite& drawers = ACQUIRE(AIAnnotatorDrawerSuite);
-  const AIUserSuite& user = ACQUIRE(AIUserSuite);
 };
-
-TEST_F(ToolSuitesTest, ToolsAreNumberedInTheirOrder) {
-  for (const char* name : {"select", "round", "round", "cross"}) add(name);
-  const std::tuple<const char*, AIErr, AIToolType> table[] = {
-      {"round", kNoErr, 1}, {"cross", kNoErr, 3}, {"Round", kNoSuchItemErr, 9}};
-  for (const auto& [name, error, expected] : table) {
-    AIToolType number = 9;
-    EXPECT_EQ(tools.GetToolNumberFromName(name, &number), error) << name;
-    EXPECT_EQ(number, expected) << name;
-  }
-}
 
 TEST_F(ToolSuitesTest, RestoringAToolLeavesItsGroupAsItIs) {
   host::ToolTable& table = host.tools();
-  const AIToolHandle select = add(""), round = add("");
+  const AIToolHandle select = table.add({}).handle, round = table.add({}).handle;
   host::ToolRecord member;
   member.group = table.all().find(round)->group;
   const AIToolHandle cross = table.add(member).handle;

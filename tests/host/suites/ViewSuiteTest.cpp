@@ -8,20 +8,6 @@
 
 namespace {
 
-TEST(View, TurnsDocumentsIntoPixels) {
-  host::View view(2.0);  // two points a unit
-  view.setViewport(800, 600);
-  view.setCenter({100, 50});
-  view.setZoom(4);
-  const AIRealPoint moved = view.toPixels({101, 52}), back = view.toDocument(moved);
-  const AIRealPoint mapped = host::apply(view.pixelsFromDocument(), {101, 52});
-  const AIRealRect bounds = view.bounds();
-  EXPECT_THAT((std::vector{moved.x, moved.y, mapped.x, mapped.y, back.x, back.y, bounds.left, bounds.top,
-                           bounds.right, bounds.bottom}),
-              testing::Pointwise(testing::DoubleEq(),
-                                 std::vector<AIReal>{408, 284, 408, 284, 101, 52, 50, 87.5, 150, 12.5}));
-}
-
 TEST(View, ShowsEvenWhatHasNoSize) {
   host::View view;
   view.show({5, 5, 5, 5});
@@ -52,25 +38,6 @@ TEST_F(ViewSuiteTest, KeepsTheZoomWithinLimits) {
   for (const AIReal wrong : {0.0, -1.0, std::nan(""), std::numeric_limits<AIReal>::infinity()}) {
     EXPECT_EQ(views.SetDocumentViewZoom(nullptr, wrong), kBadParameterErr);
   }
-}
-
-TEST_F(ViewSuiteTest, EachDocumentHasOneView) {
-  AIDocumentViewHandle view = nullptr;
-  ASSERT_EQ(views.GetNthDocumentView(0, &view), kNoErr);
-  AIDocumentViewHandle none = nullptr;
-  EXPECT_EQ(views.GetNthDocumentView(1, &none), kNoSuchItemErr);
-  const auto other = makeDocument();
-  host.documents().open(other, "other");
-  EXPECT_EQ(views.SetDocumentViewZoom(view, 5), kNoErr);
-  EXPECT_NE(zoom(), 5);
-  host.documents().setCurrent(*document);
-  EXPECT_EQ(zoom(), 5);
-  host.documents().close(*document);
-  EXPECT_EQ(host.currentDocument(), other.get());
-  EXPECT_EQ(views.SetDocumentViewZoom(view, 5), kBadParameterErr);
-  host.documents().close(*other);
-  AIReal value = 0;
-  EXPECT_EQ(views.GetDocumentViewZoom(nullptr, &value), kNoDocumentErr);
 }
 
 TEST_F(ViewSuiteTest, ArtboardListsAreCopies) {
