@@ -48,17 +48,11 @@ class FrameTest : public testing::Test {
     return plugin->Dispatch(caller, selector, &message);
   }
 
-  // One layer a title, the first on top, and one artboard a rectangle.
-  host::Document& OpenDocument(const std::vector<std::string>& layers,
-                               const std::vector<AIRealRect>& artboards = {{0, 300, 400, 0}}) {
+  // One layer a title, the first on top.
+  host::Document& OpenDocument(const std::vector<std::string>& layers) {
     auto document = std::make_shared<host::Document>();
     for (const std::string& title : layers) {
       document->editLayer(document->insertLayer(0, kPlaceBelowAll)).title = title;
-    }
-    for (const AIRealRect& position : artboards) {
-      host::Artboard artboard;
-      artboard.position = position;
-      document->editState().artboards.push_back(artboard);
     }
     return *host.documents().open(document, "drawing").document;
   }

@@ -1,27 +1,13 @@
-// Items and submenus in the menus of the host.
-#include <gmock/gmock.h>
-
+// Submenus in the menus of the host.
 #include "EnsureSubmenu.h"
 #include "FramePlugin.h"
-#include "HMX_AIMenu.h"
 
 namespace {
 
 class Menus : public FrameTest {
  protected:
-  ~Menus() override { plugin.reset(); }
-
   const host::MenuItem& Last() { return host.menus().items()[host.menus().items().size() - 1]; }
 };
-
-TEST_F(Menus, KeyAndTextComeFromTheTitle) {
-  const HMX_AIMenu menu(plugin.get(), "Help Menu", "-On/Off/", kMenuItemWantsUpdateOption);
-  ASSERT_NE(menu.item, nullptr);
-  EXPECT_EQ(Last().key, "-On-Off-");
-  EXPECT_EQ(Last().text, "-On/Off/");
-  EXPECT_TRUE(Last().wantsUpdate);
-  EXPECT_EQ(HMX_AIMenu(plugin.get(), "No Such Group", "title", 0).item, nullptr);
-}
 
 TEST_F(Menus, SubmenusAreSharedByExactName) {
   AIMenuItemHandle item = nullptr;

@@ -23,20 +23,6 @@ class PluginLife : public FrameTest {
   std::vector<std::string> events;
 };
 
-TEST(PluginConstruction, RegistersNameAndNotifiersAndHoldsNothing) {
-  host::Host host;
-  host::PluginRecord& record = host.addPlugin("test", "/opt/plug-ins/test.bundle");
-  const HMX_AIPlugin plugin({kSPValidSPMessageData, record.handle, nullptr, host.basic()});
-  EXPECT_EQ(plugin.GetStartupError(), kNoErr);
-  EXPECT_EQ(record.name, "corvane");
-  std::vector<std::string> types;
-  for (const host::NotifierRecord& notifier : host.notifiers()) types.push_back(notifier.type);
-  EXPECT_THAT(types, ElementsAre(kAIApplicationStartedNotifier, kAIApplicationShutdownNotifier,
-                                 kAISaveUserDataNotifier));
-  EXPECT_EQ(host.holds(), 0);
-  EXPECT_EQ(sSPBasic, nullptr);
-}
-
 struct RecordingDialog : qRVADM::RVADM_NonModalDialog {
   RecordingDialog(std::string text, std::vector<std::string>& list) : name(std::move(text)), events(list) {}
   ~RecordingDialog() override { events.push_back(name + " destroyed"); }
@@ -106,6 +92,23 @@ TEST_F(PluginLife, StartupActionsRunOnceWithThoseAddedMeanwhile) {
   EXPECT_EQ(events.size(), 3U) << "the notifier is gone";
   plugin->AddStartupAction(&Second, &log);
   EXPECT_EQ(host.notifiers().size(), 5U) << "a later action needs a new one";
+}
+
+TEST_F(PluginLife, ThePointerIsAPictureOfThePlugin) {
+  plugin->RequestSuite("AI Data Filter Suite");
+  std::vector<std::int32_t> cursors;
+  host.onCursor = [&](const host::PluginRecord& owner, std::int32_t id) {
+    EXPECT_EQ(&owner, &record);
+    cursors.push_back(id);
+  };
+  ASSERT_EQ(host.refusal().add("AI User Suite:CreateCursorResourceMgr:1"), "");
+  EXPECT_EQ(plugin->SetCursor(16221), kSPCanceledByHostError);
+  ASSERT_EQ(host.refusal().add("AI User Suite:CreateCursorResourceMgr:2"), "");
+  EXPECT_EQ(plugin->SetCursor(16221), kNoErr);
+  EXPECT_EQ(plugin->SetCursor(16224), kNoErr) << "the second manager would be refused";
+  EXPECT_EQ(cursors, (std::vector<std::int32_t>{16221, 16224}));
+  plugin->EndApplication();
+  EXPECT_EQ(plugin->SetCursor(16221), kSPCanceledByHostError) << "the manager went with the application";
 }
 
 }  // namespace

@@ -47,15 +47,6 @@ TEST_F(Resources, AlertsShowSentencesAndFilledFormats) {
   EXPECT_EQ(host.alerts()[3].text, std::string(510, 'x')) << "half a character is none";
 }
 
-TEST_F(Resources, ARefusedAlertTextIsThrownAndNobodyIsAskedWhoMustNotBe) {
-  host.interactionAllowed = false;
-  ErrorAlert("Not a format.");
-  host.interactionAllowed = true;
-  ASSERT_EQ(host.refusal().add("AI Unicode String Suite:New"), "");
-  EXPECT_THROW(ErrorAlert("Not a format."), ai::Error);
-  EXPECT_TRUE(host.alerts().empty());
-}
-
 TEST_F(Resources, LieAtAPathInNormalFormThatMustFit) {
   const std::string longest = "/" + std::string(254, 'b'), shipped = "/Contents/Resources";
   const std::string growing = "\xEF\xAC\x9D";  // becomes two characters of four bytes

@@ -91,23 +91,6 @@ TEST_F(SuiteManager, RequestedSuitesComeInTheOrderOfTheTable) {
               ElementsAre("- AI Layer Suite 1013", "- AI Menu Suite 1011", "- SP Blocks Suite 2"));
 }
 
-TEST_F(SuiteManager, RefusalStopsTheAcquisition) {
-  for (const char* name : {"AI Artboard Suite", "AI Art Suite", "AI Layer Suite", "AI Menu Suite"}) {
-    manager.Request(name);
-  }
-  FakeBasicSuite::refused = {"AI Layer Suite"};
-  EXPECT_EQ(manager.Acquire(), kSPSuiteNotFoundError);
-  EXPECT_EQ(manager.nesting, 1);
-  EXPECT_NE(sAIArt, nullptr);
-  EXPECT_EQ(sAILayer, nullptr);
-  EXPECT_EQ(sAIMenu, nullptr);
-
-  FakeBasicSuite::log.clear();
-  EXPECT_EQ(manager.Release(), 0);
-  EXPECT_THAT(FakeBasicSuite::log, ElementsAre("- AI Artboard Suite 1004", "- AI Art Suite 1021"))
-      << "only what is held goes back";
-}
-
 TEST_F(SuiteManager, LastReleaseClearsAllPointersButKeepsItsWayToTheHost) {
   manager.Request("AI Layer Suite");
   manager.Acquire();

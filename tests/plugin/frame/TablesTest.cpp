@@ -53,29 +53,6 @@ TEST_F(Tables, ShutdownDestroysEverythingThatIsStillThere) {
   EXPECT_EQ(alive, 0);
 }
 
-TEST_F(Tables, WhatIsTakenOutIsNotDestroyedAndNotFoundAgain) {
-  auto* menu = new CountedMenu(plugin.get(), alive);
-  EXPECT_EQ(plugin->AddMenu(menu), kNoErr);
-  EXPECT_EQ(plugin->AddMenu(menu), kNoErr);
-  EXPECT_EQ(menu->added, 2);
-  EXPECT_EQ(plugin->RemoveMenu(menu), kNoErr);
-  EXPECT_EQ(plugin->RemoveMenu(menu), ErrorCode("ErRM"));
-  EXPECT_EQ(alive, 1);
-  delete menu;
-  PlainTool tool(plugin.get());
-  EXPECT_EQ(plugin->RemoveTool(&tool), ErrorCode("ErRT"));
-}
-
-TEST_F(Tables, ANotifierEnteredTwiceGoesAltogether) {
-  auto* notifier = new Counted<HMX_AINotifier>(alive, plugin.get(), "name", "type");
-  plugin->AddNotifier(notifier);
-  plugin->AddNotifier(notifier);
-  EXPECT_EQ(plugin->RemoveNotifier(notifier), kNoErr);
-  EXPECT_EQ(plugin->RemoveNotifier(notifier), ErrorCode("ErRN"));
-  plugin->AddNotifier(notifier);
-  plugin->AddNotifier(notifier);  // destroyed once, with the table
-}
-
 TEST_F(Tables, TenToolsAndNoMore) {
   HMX_AITool* tools[10];
   for (HMX_AITool*& tool : tools) {

@@ -1,5 +1,4 @@
 // The two dialogs of line types, with a user at mouse and keyboard.
-#include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
@@ -24,10 +23,6 @@ class LineTypeDialogs : public LineTypeFiles {
   LineTypeDialogs() {
     qRVADM::SetToolkitPlugin(host.addPlugin("test", scratch.file("test.bundle")).handle);
     WriteStandard(FileOf("Standard", {"Through Cut", "Kiss Cut", "Crease"}));
-    host.pickRGBColor = [this](const std::string&, AIRGBColor& color) {
-      color = picked;
-      return true;
-    };
   }
   ~LineTypeDialogs() override { qRVADM::SetToolkitPlugin(nullptr); }
 
@@ -45,40 +40,19 @@ class LineTypeDialogs : public LineTypeFiles {
     Next(act);
     return !CutPreferencesDialog().IsCancelled();
   }
-  // The user types a name and presses a key.
-  void TypeName(const std::string& name, Qt::Key key) {
-    Next([name, key](QDialog& dialog) {
+  // The user types a name and presses Return, and Escape if that did not do.
+  void TypeName(const std::string& name) {
+    Next([name](QDialog& dialog) {
       auto* const edit = dialog.findChild<QLineEdit*>();
       edit->clear();
       QTest::keyClicks(edit, QString::fromStdString(name));
-      QTest::keyClick(edit, key);
+      QTest::keyClick(edit, Qt::Key_Return);
       if (dialog.isVisible()) QTest::keyClick(&dialog, Qt::Key_Escape);
     });
   }
 
   static QListWidget& List(const QDialog& dialog, int index) {
     return *dialog.findChildren<QListWidget*>()[index];
-  }
-  static QAbstractButton& Icon(const QDialog& dialog, const char* tip) {
-    for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>()) {
-      if (button->toolTip() == tip) return *button;
-    }
-    throw std::runtime_error(std::string("no button for ") + tip);
-  }
-  static void SelectGroup(const QDialog& dialog, const char* name) {
-    QListWidget& list = List(dialog, kGroups);
-    const QRect row = list.visualItemRect(list.findItems(name, Qt::MatchExactly).at(0));
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, row.center());
-  }
-  static void ClickType(const QDialog& dialog, int row, bool twice = false) {
-    QListWidget& list = List(dialog, kTypes);
-    const QPoint place = list.visualItemRect(list.item(row)).center();
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
-    if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, Qt::NoModifier, place);
-  }
-  static void ToggleType(const QDialog& dialog, int row) {
-    ClickType(dialog, row);
-    QTest::keyClick(List(dialog, kTypes).viewport(), Qt::Key_Space);
   }
   // The rows to be seen, those without a tick in parentheses.
   static Names Rows(const QDialog& dialog) {
@@ -98,7 +72,6 @@ class LineTypeDialogs : public LineTypeFiles {
   }
 
   QObject hands;
-  AIRGBColor picked{0, 65535, 32768};
 };
 
 TEST_F(LineTypeDialogs, ANameIsAcceptedOrTheUserIsToldWhyNot) {
@@ -116,7 +89,7 @@ TEST_F(LineTypeDialogs, ANameIsAcceptedOrTheUserIsToldWhyNot) {
   for (const auto& row : rows) {
     LineType type = row.old.empty() ? LineType() : *ParseLineType(LineTypeJSON(row.old));
     const std::size_t alerts = host.alerts().size();
-    TypeName(row.typed, Qt::Key_Return);
+    TypeName(row.typed);
     const CutNewLineTypeDialog dialog(&type, [](const std::string& name) { return name == "Taken"; });
     EXPECT_EQ(type.name.as_UTF8(), row.result) << row.typed;
     ASSERT_EQ(host.alerts().size(), alerts + (row.alert.empty() ? 0 : 1)) << row.typed;
@@ -126,64 +99,42 @@ TEST_F(LineTypeDialogs, ANameIsAcceptedOrTheUserIsToldWhyNot) {
   }
 }
 
-TEST_F(LineTypeDialogs, AColorBecomesAnRGBSpotColor) {
-  LineType type;
-  Next([](QDialog& dialog) {
-    EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), "Custom");
-    EXPECT_EQ(dialog.grab().toImage().pixelColor(dialog.findChild<QLineEdit*>()->geometry().bottomLeft() +
-                                                 QPoint(15, 20)),
-              QColor(Qt::red));
-    QTest::keyClick(&dialog, Qt::Key_Return);
-  });
-  const auto free = [](const std::string&) { return false; };
-  { const CutNewLineTypeDialog dialog(&type, free); }
-  EXPECT_TRUE(type.isCustomDataModel);
-  EXPECT_EQ(type.customColor.kind, kCustomThreeColor);
-  EXPECT_EQ(type.customColor.flag, kCustomSpotColor);
-  EXPECT_EQ(type.customColor.c.rgb.red, 1);
+TEST_F(LineTypeDialogs, APickedColorBecomesAnRGBSpotColorByOKAlone) {
+  host.pickRGBColor = [](const std::string&, AIRGBColor& color) {
+    color = {0, 65535, 32768};
+    return true;
+  };
   for (const bool keeps : {true, false}) {
-    type.isCustomDataModel = false;
-    type.color = AIColor();
-    type.color.kind = kThreeColor;
+    LineType type = *ParseLineType(R"({"name":"A","isCustomDataModel":false,"color":{"kind":6}})");
     Next([keeps](QDialog& dialog) {
       const QLineEdit* const edit = dialog.findChild<QLineEdit*>();
       QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                         edit->geometry().bottomLeft() + QPoint(15, 20));
       QTest::keyClick(&dialog, keeps ? Qt::Key_Return : Qt::Key_Escape);
     });
-    const CutNewLineTypeDialog dialog(&type, free);
-    EXPECT_EQ(type.isCustomDataModel, keeps);
-    if (keeps) {
-      EXPECT_EQ(type.customColor.c.rgb.blue, 32768 / 65535.0);
-    }
+    const CutNewLineTypeDialog dialog(&type, [](const std::string&) { return false; });
+    ASSERT_EQ(type.isCustomDataModel, keeps);
+    if (!keeps) continue;
+    EXPECT_EQ(type.customColor.kind, kCustomThreeColor);
+    EXPECT_EQ(type.customColor.flag, kCustomSpotColor);
+    EXPECT_EQ(type.customColor.c.rgb.blue, 32768 / 65535.0);
   }
 }
 
 TEST_F(LineTypeDialogs, TicksAreStoredByOKAlone) {
-  StoreShown("Custom", "A|gone");
-  WriteCustom(FileOf("Custom", {"A", "B"}));
-  const auto act = [](QDialog& dialog, Qt::Key key) {
-    EXPECT_EQ(Rows(dialog), (Names{"Through Cut", "Kiss Cut", "Crease"}));
-    const int height = List(dialog, kTypes).height();
-    EXPECT_FALSE(Icon(dialog, "New Custom Line Type").isVisible());
-    ToggleType(dialog, 1);
-    SelectGroup(dialog, "Custom");
-    EXPECT_EQ(Rows(dialog), (Names{"A", "(B)"}));
-    EXPECT_TRUE(Icon(dialog, "New Custom Line Type").isVisible());
-    EXPECT_EQ(List(dialog, kTypes).height() + Icon(dialog, "New Custom Line Type").height(), height);
-    ToggleType(dialog, 1);
-    SelectGroup(dialog, "Standard");
-    EXPECT_EQ(Rows(dialog), (Names{"Through Cut", "(Kiss Cut)", "Crease"}));
-    EXPECT_EQ(List(dialog, kTypes).height(), height);
-    ClickType(dialog, 2, true);  // nothing to edit
-    QTest::keyClick(&dialog, key);
-  };
-  EXPECT_FALSE(Prefer([&](QDialog& dialog) { act(dialog, Qt::Key_Escape); }));
-  EXPECT_EQ(Shown("Standard"), "none stored");
-  EXPECT_EQ(Shown("Custom"), "A|gone");
-  EXPECT_TRUE(Prefer([&](QDialog& dialog) { act(dialog, Qt::Key_Return); }));
+  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+    EXPECT_EQ(Shown("Standard"), "none stored");
+    Prefer([key](QDialog& dialog) {
+      EXPECT_EQ(Rows(dialog), (Names{"Through Cut", "Kiss Cut", "Crease"}));
+      QListWidget& list = List(dialog, kTypes);
+      QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                        list.visualItemRect(list.item(1)).center());
+      QTest::keyClick(list.viewport(), Qt::Key_Space);
+      EXPECT_EQ(Rows(dialog), (Names{"Through Cut", "(Kiss Cut)", "Crease"}));
+      QTest::keyClick(&dialog, key);
+    });
+  }
   EXPECT_EQ(Shown("Standard"), "Through Cut|Crease");
-  EXPECT_EQ(Shown("Custom"), "A|B");
 }
 
 TEST_F(LineTypeDialogs, WhatWasNotReadIsNotReplaced) {

@@ -46,7 +46,6 @@ TEST(CompiledForm, SaysWhatIsWrong) {
       {"type of the root", kHead + Compiled("r", "", 0, 0, 3), kRDBBadTypeIndex, kNoDatabase},
       {"root without a name", kHead + Compiled("", ""), kRDBBadFile, kNoDatabase},
       {"value of the root cut", kHead + Compiled("r", "text").substr(0, 20), kRDBBadFile, kNoDatabase},
-      {"child without a name", front + Compiled("", "x"), kRDBBadFile, "good=kept"},
       {"child's type", front + Compiled("b", "", 0, 0, 9), kRDBBadTypeIndex, "good=kept"},
       {"child's name", front + "\0\0\0\0\0\x80\0\0\0\0\0\0\0\0\0\0\0ab"s, kRDBBadFile, "good=kept"},
       {"child's value", front + "\0\0\0\0\0\0\0\0\1\xFF\xFF\xFF\xFF\0\0\0\0ab"s, kRDBBadFile, "good=kept"},
@@ -78,12 +77,6 @@ TEST(CompiledForm, IsReadDepthFirstUpToAnyCut) {
   }
   EXPECT_EQ(listing + ", <x>=dots", Listing(all.get()));
   EXPECT_EQ(listing, "Group=bytes, Group/Key=Hello, Group/sub/deep=d, <whatever>=any");
-}
-
-TEST(CompiledForm, PutsTheNewestOfEqualNamesFirst) {
-  std::string file = kHead + Root(60);
-  for (int number = 0; number < 60; ++number) file += Compiled("same", std::to_string(number));
-  EXPECT_EQ(Listing(Read(file).get()).substr(0, 17), "same=59, same=58,");
 }
 
 // A leaf at every level: building each path from the root would take the square of the depth.

@@ -18,14 +18,6 @@ TEST(Merge, LetsTheSourceWinAndSharesItsValues) {
             "=root, a=a1, a/b=ab2, a/b/c/d=deep, y=shared, only/target=t, <*>=star2, <.>/x=dots");
 }
 
-// Of names in one bucket a walk meets the newest first, and so the copy of that ends up last.
-TEST(Merge, PutsCopiesAtTheHeadOfTheirBucket) {
-  const RDB_Handle target = DatabaseOf("x : 0"), source = DatabaseOf("DL : 1 Lt : 2 Oc : 3");
-  EXPECT_EQ(Listing(source.get()), "Oc=3, Lt=2, DL=1");
-  RDB_Merge(target.get(), source.get());
-  EXPECT_EQ(Listing(target.get()), "DL=1, Lt=2, Oc=3, x=0");
-}
-
 TEST(Invert, GivesTextToLastComponent) {
   const std::pair<const char*, const char*> cases[] = {
       {"Some.Group.Key : Hello g.a : \"\"", "g/=a, Some/Group/Hello=Key"},

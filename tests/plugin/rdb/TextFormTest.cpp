@@ -28,7 +28,6 @@ TEST(TextForm, HoldsKeysAndTextsUpToAMissingSeparator) {
       {"k : v;some\nl : w /* open", "k=v, l=w"},
       // Quotes and joints.
       {R"(k : ab"c d"e"a:b=c + /* # ; d")", "k=abc dea:b=c + /* # ; d"},
-      {"k : \"two\nlines", "k=two\nlines"},
       {"k : \"first \"+\n\t \"second\"+", "k=first second"},
       {"k : +a+\n:b", "=b, k=a"},
       {"k :: v", "=v, k="},
@@ -51,20 +50,6 @@ TEST(TextForm, HoldsKeysAndTextsUpToAMissingSeparator) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(),
               row.badLine > 0 ? "No ':' separator detected in file some.asc at line " + line + ".\n" : "");
   }
-}
-
-TEST(TextForm, IsAddedFromFilesUpToTheFault) {
-  const ScratchFolder scratch;
-  const RDB_Handle db = RDB_Create();
-  RDB_LoadText(db.get(), scratch.write("base.asc", "a : 1\nb : 2").c_str());
-  std::string text;
-  for (int line = 1; line < 50000; ++line) text += "\"b\" : 3\n";
-  const std::string path = scratch.write("long.asc", text + "no separator\na : 4\n");
-  testing::internal::CaptureStderr();
-  RDB_LoadText(db.get(), path.c_str());
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "No ':' separator detected in file " + path + " at line 50000.\n");
-  EXPECT_EQ(Listing(db.get()), "a=1, b=3");
 }
 
 // Everything that looks one byte ahead or goes one back, at every place around the edge of a buffer.

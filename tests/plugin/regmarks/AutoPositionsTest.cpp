@@ -49,21 +49,6 @@ TEST(AutoPositions, StandWhereTheRulesPutThem) {
     int count;
     PositionList expected;
   } cases[] = {
-      {{700, 1400, 1300, 200},
-       {800, 1300, 1200, 300},
-       1,
-       24,
-       7,
-       {{795.0571, 420.3571},
-        {740.7143, 1085.4186},
-        {740.7143, 1271.6358},
-        {822.2286, 1338.1420},
-        {930.9143, 513.4657},
-        {1012.4286, 979.0088},
-        {876.5714, 1098.7198},
-        {1121.1143, 1085.4186},
-        {1202.6286, 1258.3346},
-        {1311.3143, 1098.7198}}},
       {{0, 100, 100, 0},
        {20, 80, 80, 20},
        10,
@@ -83,16 +68,6 @@ TEST(AutoPositions, StandWhereTheRulesPutThem) {
         {86.3860, 61.6966},
         {83.9246, 77.7135},
         {98.6930, 65.3928}}},
-      {{0, 792, 612, 0},  // art that hangs over the page
-       {500, 900, 800, 500},
-       1,
-       20,
-       8,
-       {{443.4398, 766.1749},
-        {488.1998, 537.4019},
-        {555.3399, 617.4724},
-        {577.7199, 811.9295},
-        {667.2400, 743.2976}}},
       {{0, 400, 400, 0},
        {150, 250, 250, 150},
        1,
@@ -126,7 +101,6 @@ TEST(AutoPositions, AreNoneWhereNothingFits) {
   } cases[] = {
       {"art far off the page", {0, 100, 100, 0}, 2000, 10},
       {"a grid of less than four cells", {0, 100, 300, 0}, 520, 30},
-      {"no extent", {0, 792, 612, 0}, 100, 0},
       {"a negative extent", {0, 792, 612, 0}, 100, -10},
   };
   for (const auto& c : cases) {
@@ -178,17 +152,8 @@ TEST(ProbeArea, TestsAboutEveryTwoUnitsWithBothEdges) {
   for (const auto& [probe, expected] : cases) {
     EXPECT_EQ(static_cast<int>(ProbeArea(probe)), expected) << probe.left;
   }
-  drawing.host.refusal().add("AI Hit Test Suite:GetHitData");
-  EXPECT_EQ(ProbeArea(cases[4].first), kFree);
-}
-
-TEST(ProbeArea, FindsArtInAreasOfAnySize) {
-  Drawing drawing;
-  drawing.addRectangle(100, 100, 103, 103);
-  for (const double reach : {1e3, 1e4, 1e6, 1e8}) {
-    SCOPED_TRACE(reach);
-    EXPECT_EQ(ProbeArea({-reach, reach, reach, -reach}), kOccupied);
-    EXPECT_EQ(ProbeArea({104, reach, 2 * reach, -reach}), kFree);
+  for (const double reach : {1e3, 1e8}) {
+    EXPECT_EQ(ProbeArea({-reach, reach, reach, -reach}), kOccupied) << reach;
   }
   ProbeArea({-1e300, 1e300, 1e300, -1e300});  // ends
 }

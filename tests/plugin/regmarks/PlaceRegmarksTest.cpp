@@ -103,24 +103,6 @@ TEST(ArtBounds, CountEveryLayerButTheMarks) {
   }
 }
 
-TEST(PlaceRegmarks, ReplacesTheMarksOfAnEarlierPlacement) {
-  Drawing drawing;
-  drawing.addRectangle(100, 100, 400, 500);
-  std::int32_t failures = 0;
-  for (const std::uint32_t action : {kCornerMarks, kAutoMarks, kEdgeRing, kCornerMarks}) {
-    EXPECT_EQ(Place(action, 10, failures), kNoErr);
-    EXPECT_GE(drawing.marks().size(), 4U);
-    EXPECT_EQ(drawing.layerTitles().size(), 2U);
-  }
-  const std::uint64_t before = drawing.document().revision();
-  for (const std::uint32_t action : {0U, 4U, 0xFFFFFFFFU}) {  // marks by hand, and no action
-    EXPECT_EQ(Place(action, 10, failures = 99), kNoErr);
-    EXPECT_EQ(failures, 0);
-    EXPECT_EQ(drawing.document().revision(), before);
-  }
-  EXPECT_EQ(drawing.marks().size(), 5U);
-}
-
 // Sizes that only a preference file can hold.
 TEST(PlaceRegmarks, EndsForSizesThatMakeNoSense) {
   const double infinity = std::numeric_limits<double>::infinity();

@@ -44,7 +44,6 @@ TEST_F(Sentences, AreOneComponentEachWhateverTheyHold) {
   for (const auto& [sentence, translation] : table) {
     EXPECT_STREQ(Localize(sentence), translation) << sentence;
     EXPECT_STREQ(LocalizeItemText("", sentence), translation) << sentence;
-    EXPECT_STREQ(LookupResource(nullptr, sentence, nullptr).get(), translation) << sentence;
   }
 }
 
@@ -83,10 +82,6 @@ TEST_F(Sentences, LeadBackToTheirKeys) {
   const std::pair<const char*, const char*> table[] = {
       {"Hallo", "Hello"}, {"Punkt", "x.y"}, {"Januar", nullptr}, {"Hello", nullptr}, {"", nullptr}};
   for (const auto& [text, key] : table) EXPECT_STREQ(ReverseLookup(text), key) << text;
-  Write("more.asc", "Later : Danach");
-  RegisterTextModule("more");
-  EXPECT_STREQ(ReverseLookup("Danach"), "Later");
-  EXPECT_STREQ(ReverseLookup(ReverseLookup("Danach")), nullptr);
 }
 
 class MissingKeys : public Sentences {
@@ -115,15 +110,6 @@ TEST_F(MissingKeys, AreRecordedOnceAsAFileToTranslate) {
     }
     EXPECT_EQ(scratch.read("missing.asc"), recorded) << anew;
   }
-}
-
-TEST_F(MissingKeys, AreRecordedOnRequestOnly) {
-  unsetenv("LOCALE_MISSING");
-  Texts("Hello : Hallo");
-  Localize("Wait...");
-  EXPECT_FALSE(std::filesystem::exists(record));
-  setenv("LOCALE_MISSING", (folder / "no/such/folder").c_str(), 1);
-  EXPECT_STREQ(Localize("Wait..."), "Wait...");
 }
 
 }  // namespace

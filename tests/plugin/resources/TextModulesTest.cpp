@@ -3,7 +3,6 @@
 #include "TextBundle.h"
 
 #include "FindTextResource.h"
-#include "RV_LOCALE.h"
 
 namespace {
 
@@ -35,35 +34,6 @@ TEST_F(TextModules, AreReadOnce) {
   EXPECT_STREQ(Localize("word"), "second");
 }
 
-TEST_F(TextModules, ComeBackWithoutTheRegisteredOnesAfterTheyWereFreed) {
-  Write("rv.asc", "base:text");
-  Write("corvane.asc", "product:text");
-  Start();
-  FreeTextState();
-  EXPECT_STREQ(Localize("base"), "text");
-  EXPECT_STREQ(Localize("product"), "product");
-}
-
-TEST_F(TextModules, WithoutALanguageTheLocalisationCIsAsked) {
-  Write("C.lproj/rv.asc", "word:c");
-  Write("de.lproj/rv.asc", "word:de other:de");
-  setenv("LANGUAGE", "de", 1);
-  setenv("LOCALE_PATH", resources.c_str(), 1);
-  EXPECT_STREQ(Localize("word"), "c");
-  EXPECT_STREQ(Localize("other"), "other");
-  EXPECT_EQ(rvLocale, &kLocaleMethods);
-  EXPECT_STREQ(rvLocale->name, "RV_LOCALE");
-}
-
-TEST_F(TextModules, AFaultIsToldAndLeavesWhatStandsBeforeIt) {
-  Write("corvane.asc", "good : text\nbad text\n");
-  testing::internal::CaptureStderr();
-  Start();
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "No ':' separator detected in file " + (resources / "corvane.asc").string() + " at line 2.\n");
-  EXPECT_STREQ(Localize("good"), "text");
-}
-
 TEST_F(TextModules, ResourcesAreFoundByTheirOrder) {
   const auto found = [this](const char* language, const char* name) {
     const auto path = FindTextResource(language, name, ".asc");
@@ -81,10 +51,6 @@ TEST_F(TextModules, ResourcesAreFoundByTheirOrder) {
   EXPECT_EQ(found("de", "Name"), "de.lproj/NAME.ASC") << "capitals before small letters";
   Write("de.lproj/Name", "");
   EXPECT_EQ(found("de", "Name"), "de.lproj/Name") << "the name as it is before all others";
-  Write("de.lproj/Name.ASC", "");
-  EXPECT_EQ(found("de", "Name"), "de.lproj/Name.ASC");
-  Write("de.lproj/Name.asc", "");
-  EXPECT_EQ(found("de", "Name"), "de.lproj/Name.asc");
   EXPECT_EQ(found("Bundle", "name"), "fr.lproj/name");
   EXPECT_EQ(found("de", "other"), "");
 

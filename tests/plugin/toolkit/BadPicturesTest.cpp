@@ -56,9 +56,8 @@ TEST_F(BadPicturesTest, MakeNoPictureAndTakeLittleMemory) {
     for (const std::string& file : kind) EXPECT_TRUE(Loaded(id++, file).isNull()) << id;
     id = 25600;
   }
-  for (const char* box : {"1e300 -1e300 40 40", "nan nan nan nan", "inf inf inf inf"}) {
-    Loaded(++id,
-           SVGPicture(std::string("viewBox=\"") + box + "\""));  // what comes of these is Qt's own affair
+  for (const char* box : {"1e300 -1e300 40 40", "nan nan nan nan"}) {
+    Loaded(++id, SVGPicture("viewBox=\"" + std::string(box) + "\""));  // what comes of it is Qt's own affair
   }
   EXPECT_LT(PeakMemory() - before, 256 * 1024);
 }

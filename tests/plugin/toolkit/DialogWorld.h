@@ -16,7 +16,7 @@
 // Open.
 class TestDialog : public qRVADM::RVADM_ModalDialog {
  public:
-  explicit TestDialog(bool resizable = false) : RVADM_ModalDialog(resizable) {}
+  TestDialog() : RVADM_ModalDialog(false) {}
 
   // From here on its items are those of a palette.
   void BecomePalette() { RVADMQtManager::QtManager::RegisterPalette(this); }

@@ -13,7 +13,6 @@ namespace {
 constexpr std::uint32_t kBlue = 0x0000ffff;
 constexpr std::uint32_t kWhite = 0xffffffff;
 
-// Paints its ordinary look in green.
 class Picture : public RVADM_CustomItem {
  public:
   explicit Picture(TestDialog& dialog) : RVADM_CustomItem(&dialog) { SetSize(40, 20); }
@@ -21,7 +20,6 @@ class Picture : public RVADM_CustomItem {
   void DefaultPaint(QPaintEvent* event) override {
     QPainter painter(this);
     EXPECT_TRUE(painter.isActive());
-    painter.fillRect(0, 0, 20, 20, Qt::green);
     RVADM_CustomItem::DefaultPaint(event);
   }
   void paintEvent(QPaintEvent* event) override {
@@ -70,22 +68,6 @@ TEST_F(DrawerTest, DrawsCrisply) {
     int y = 0;
     for (const char* row : expected) EXPECT_EQ(RowOf(Grab(item, ratio), y++, legend), row) << ratio;
   }
-}
-
-TEST_F(DrawerTest, GoesOnAfterTheOrdinaryLook) {
-  item.draw = [](IADMDrawer& drawer) {
-    drawer.SetColor(kWhite);
-    drawer.FillRect({0, 0, 40, 20});
-    drawer.DrawDefault();
-    EXPECT_TRUE(drawer.GetPainter()->testRenderHint(QPainter::Antialiasing));
-    drawer.GetPainter()->setRenderHint(QPainter::Antialiasing, false);
-    drawer.DrawDefault();
-    EXPECT_FALSE(drawer.GetPainter()->testRenderHint(QPainter::Antialiasing));
-    drawer.SetColor(kBlue);
-    drawer.FillRect({18, 0, 22, 1});
-  };
-  EXPECT_EQ(RowOf(Grab(item, 1), 0, {{'.', Qt::white}, {'g', Qt::green}, {'b', Qt::blue}}),
-            "ggggggggggggggggggbbbb..................");
 }
 
 TEST_F(DrawerTest, LeavesNoPainterBehindWhenDrawingThrows) {

@@ -1,12 +1,10 @@
-// What every item offers, on a label and a text field.
+// What every item offers, on a label.
 #include <array>
 #include <string>
 
 #include "DialogWorld.h"
-#include "RVADM_CustomItem.h"
+#include "Placement.h"
 #include "RVADM_Label.h"
-#include "RVADM_TextEdit.h"
-#include "RVADM_TextPushButton.h"
 
 namespace qRVADM {
 namespace {
@@ -41,55 +39,6 @@ TEST_F(ItemTest, KeepTheTextTheyWereGivenAndTellWhatTheyShow) {
   label->SetTextW(wide, false);
   EXPECT_EQ(TextOf(*label, 32, true), "WÄ");
   EXPECT_EQ(TextOf(*label, 32, false), "Maße");
-
-  auto* field = new RVADM_TextEdit(&dialog, "given", false, false);
-  field->setText("typed");
-  EXPECT_EQ(TextOf(*field, 32, false), "typed");
-}
-
-TEST_F(ItemTest, GrowAndShrinkToTheirText) {
-  TestDialog dialog;
-  auto* label = new RVADM_Label(&dialog, "A long text", false);
-  label->MoveTo(30, 40, false);
-  const int longWidth = label->GetWidth();
-  label->SetText("i", false, true);
-  EXPECT_LT(label->GetWidth(), longWidth);
-  EXPECT_EQ(label->QLabel::geometry(), QRect(QPoint(30, 40), label->sizeHint()));
-  label->SetText("A long text", false, false);
-  EXPECT_LT(label->GetWidth(), longWidth);
-}
-
-TEST_F(ItemTest, TipsShowMarkupAsCharactersUnlessToldOtherwise) {
-  TestDialog dialog;
-  auto* label = new RVADM_Label(&dialog, "x", false);
-  label->SetTip("<b>bold</b>", false, true);
-  EXPECT_EQ(label->toolTip(), "<b>bold</b>");
-  label->SetTip("<b>bold</b>", false, false);
-  EXPECT_TRUE(label->toolTip().contains("&lt;b&gt;")) << label->toolTip().toStdString();
-  label->SetTip("5 < 6", false, false);
-  EXPECT_EQ(label->toolTip(), "5 < 6");
-  label->SetTip(nullptr, true, false);
-  EXPECT_EQ(label->toolTip(), "");
-}
-
-TEST_F(ItemTest, StateBeforeAndAfterTheDialogIsShown) {
-  TestDialog dialog;
-  auto* button = new RVADM_TextPushButton(&dialog, "x");
-  auto* hidden = new RVADM_TextPushButton(&dialog, "y");
-  hidden->SetVisible(false);
-  for (const bool shown : {false, true}) {
-    if (shown) dialog.Open();
-    EXPECT_TRUE(button->IsVisible());
-    EXPECT_FALSE(hidden->IsVisible());
-    EXPECT_TRUE(button->IsEnabled());
-  }
-  button->SetFocus(true);
-  EXPECT_TRUE(button->HasFocus());
-  button->setFocusPolicy(Qt::NoFocus);
-  button->SetFocus(true);
-  EXPECT_FALSE(button->HasFocus());
-  button->SetEnabled(false);
-  EXPECT_FALSE(button->IsEnabled());
 }
 
 struct BoundsWatch : RVADM_Label {
@@ -97,6 +46,23 @@ struct BoundsWatch : RVADM_Label {
   void Notify(int code) override { codes.push_back(code); }
   std::vector<int> codes;
 };
+
+TEST_F(ItemTest, PlacementGoesByItsFlagsInTheirOrder) {
+  const struct {
+    int flags;
+    QRect placed;
+  } rows[] = {{kAlignBase, {10, 20, 30, 10}},
+              {kStretchLeft | kStretchRight, {100, 20, 105, 10}},
+              {kStretchLeft | kAlignLeft, {100, 20, 30, 10}},  // the width of before
+              {kAlignRight | kStretchBottom, {175, 20, 30, 241}},
+              {kStretchTop | kStretchBottom, {10, 200, 30, 61}},
+              {kAlignLeft | kAlignTop, {100, 200, 30, 10}},
+              {kCenterH | kAlignBottom, {137, 251, 30, 10}},
+              {kCenterV, {10, 225, 30, 10}}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(ToQRect(Placed({10, 20, 40, 30}, {100, 200, 205, 261}, row.flags)), row.placed) << row.flags;
+  }
+}
 
 TEST_F(ItemTest, NotifyOfBoundsAndMoveByTheirSides) {
   TestDialog dialog;

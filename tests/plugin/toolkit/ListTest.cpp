@@ -6,7 +6,6 @@
 #include "DialogWorld.h"
 #include "IADMDrawer.h"
 #include "RVADM_ListBox.h"
-#include "RVADM_NonModalDialog.h"
 #include "RVADM_TabListBox.h"
 #include "RVADM_TabListEntry.h"
 #include "RVADM_TextPushButton.h"
@@ -115,11 +114,9 @@ TEST_F(ListTest, ClickOnAMultipleSelectionWaitsForADoubleClick) {
                 {2, 4},
                 {2, 4},
                 2},
-               {"a new row", [this] { new RVADM_ListEntry(list, "new", false); }, all, all, 0},
                {"a row less", [this] { delete rows[5]; }, all, all, 0},
                {"ClearSelection", [this] { list->ClearSelection(); }, {}, {}, 1},
-               {"Clear", [this] { list->Clear(); }, {}, {}, 0},
-               {"the model's reset", [this] { list->selectionModel()->reset(); }, {}, {}, 0}};
+               {"Clear", [this] { list->Clear(); }, {}, {}, 0}};
   for (const auto& c : cases) {
     OpenWithSelection(all);
     ClickRow(2);
@@ -175,10 +172,6 @@ TEST_F(ListTest, RowsMayGoFromInsideTheirHandlers) {
   const std::pair<const char*, std::function<void()>> removals[] = {
       {"the row", [this] { delete list->GetEntry(2); }},
       {"the rows above", [this] { delete list->GetEntry(0), delete list->GetEntry(0); }},
-      {"what is selected",
-       [this] {
-         while (RVADM_ListEntry* entry = list->GetSelectedEntry(0)) delete entry;
-       }},
       {"all", [this] { list->Clear(); }}};
   const std::pair<const char*, std::function<void(std::function<void()>)>> moments[] = {
       {"notification", [this](auto remove) { dialog->react = remove; }},
@@ -226,43 +219,14 @@ TEST_F(ListTest, TheListMayGoFromItsLaterNotificationAndFromATip) {
 
 // --- rows ---
 
-TEST_F(ListTest, RowsAreFoundCountedAndRead) {
-  OpenWithSelection({4, 1, 2});
-  EXPECT_EQ(list->GetSelectedCount(), 3);
-  EXPECT_EQ(list->GetSelectedEntry(0), rows[1]);
-  EXPECT_EQ(list->GetSelectedEntry(2), rows[4]) << "in the order of the rows";
-  EXPECT_EQ(list->GetSelectedEntry(3), nullptr);
-  EXPECT_EQ(list->GetSelectedEntry(-1), nullptr);
-  EXPECT_EQ(list->GetActiveEntry(), rows[2]);
-  list->ClearSelection();
-  EXPECT_EQ(list->GetActiveEntry(), nullptr);
-  list->addItem("foreign");
-  EXPECT_EQ(list->GetEntry(7), nullptr);
-  EXPECT_EQ(list->FindEntry("foreign"), nullptr);
-  auto* custom = new RVADM_ListEntry(list, "Custom", true);
-  auto* cut = new RVADM_ListEntry(list, "Cut \xC3\xA4", false);
-  EXPECT_EQ(list->FindEntry("Cu"), custom);
-  EXPECT_EQ(list->FindEntry("cut"), cut);
-  EXPECT_EQ(list->FindEntry("ut"), nullptr);
-  char text[6];
-  cut->GetText(text, sizeof text, true);
-  EXPECT_STREQ(text, "Cut ") << "no half a character";
-  RVADM_ListEntry empty(list, nullptr, true);
-  empty.GetText(text, sizeof text, false);
-  EXPECT_STREQ(text, "");
-  EXPECT_TRUE(dialog->notified.empty()) << "nothing of this came from the user";
-}
-
 TEST_F(ListTest, BoxesAreTickedByTheMouse) {
   Open(false);
   rows[1]->SetCheckable();
+  rows[1]->SetChecked(false);
   for (const bool checked : {true, false}) {
-    rows[1]->SetChecked(checked);
-    EXPECT_EQ(rows[1]->IsChecked(), checked);
-    rows[1]->last.action = 0;
     Press(*dialog, InRow(1, {8, 10}));
     Release(*dialog, InRow(1, {8, 10}));
-    EXPECT_EQ(rows[1]->IsChecked(), !checked);
+    EXPECT_EQ(rows[1]->IsChecked(), checked);
     EXPECT_EQ(rows[1]->last.action, 0) << "the click ends with the box";
     EXPECT_TRUE(Shown().empty());
   }
@@ -270,26 +234,19 @@ TEST_F(ListTest, BoxesAreTickedByTheMouse) {
 
 TEST_F(ListTest, ColumnsRunBetweenTabStops) {
   struct Columns : RVADM_TabListBox {
-    Columns(RVADM_ItemParent* parent, std::uint32_t count, std::vector<std::int32_t> stops)
-        : RVADM_TabListBox(parent, false) {
-      tabCount = count;
-      tabStops = std::move(stops);
+    explicit Columns(RVADM_ItemParent* parent) : RVADM_TabListBox(parent, false) {
+      tabCount = 4;
+      tabStops = {20, 0x2032};  // one too few
     }
   };
   TestDialog columnDialog;
-  const struct {
-    std::uint32_t count;
-    std::vector<std::int32_t> stops;
-    int column, left, right;
-  } cases[] = {{2, {20}, 0, 3, 20},         {2, {20}, 1, 20, 90},    {3, {20, 50}, 1, 20, 50},
-               {3, {0x2014, 50}, 0, 3, 20}, {0, {}, 0, 3, 90},       {3, {20}, 1, 20, 90},
-               {2, {20}, -1, 3, 90},        {2, {20, 50}, 1, 20, 90}};
-  for (const auto& c : cases) {
-    auto* columns = new Columns(&columnDialog, c.count, c.stops);
-    auto* entry = new RVADM_TabListEntry(columns, nullptr, false);
+  auto* entry = new RVADM_TabListEntry(new Columns(&columnDialog), nullptr, false);
+  const std::pair<int, int> cells[] = {{3, 20}, {20, 50}, {50, 90}, {3, 90}};
+  for (const int column : {0, 1, 2, -1}) {
     ADMRect cell{};
-    EXPECT_TRUE(entry->GetTabRect({3, 5, 90, 25}, c.column, &cell));
-    EXPECT_EQ(ToQRect(cell), ToQRect({c.left, 5, c.right, 25})) << &c - cases;
+    EXPECT_TRUE(entry->GetTabRect({3, 5, 90, 25}, column, &cell));
+    const auto& [left, right] = cells[column < 0 ? 3 : column];
+    EXPECT_EQ(ToQRect(cell), ToQRect({left, 5, right, 25})) << column;
   }
 }
 

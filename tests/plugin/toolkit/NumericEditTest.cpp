@@ -19,8 +19,7 @@ class NumericEditTest : public DialogTest {
 
 // A field from 0.01 pt to 20 mm in a dialog that is up, with another field beside it.
 struct World {
-  explicit World(bool immediate, bool onPalette = false) {
-    if (onPalette) dialog.BecomePalette();
+  explicit World(bool immediate) {
     edit = new RVADM_NumericEdit(&dialog, immediate, -1, 0.01, 1440 / 25.4, 1);
     edit->SetUnits(kMillimeterUnits);
     edit->SetShowArrows(true);
@@ -57,7 +56,6 @@ struct World {
     QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, up);
   }
   std::string Shown() const { return edit->GetTextInt().toStdString(); }
-  double Value() const { return edit->GetValue(kMillimeterUnits); }
   int Notified() { return static_cast<int>(std::exchange(dialog.notified, {}).size()); }
 
   TestDialog dialog;
@@ -74,12 +72,10 @@ TEST_F(NumericEditTest, StepsLandOnMultiples) {
     Qt::KeyboardModifiers held;
     const char* shown;
     int notified = 1;
-  } cases[] = {{2.3, kUp, {}, "3 mm"},       {3, kUp, {}, "4 mm"},
-               {2.3, kDown, {}, "2 mm"},     {2.3, kUp, kControl, "2.5 mm"},
-               {2.3, kUp, kShift, "10 mm"},  {2.3, kUp, kControl | kShift, "5 mm"},
-               {2.3, kPageUp, {}, "10 mm"},  {2.3, kPageUp, kControl, "5 mm"},
-               {19.5, kUp, kShift, "20 mm"}, {0.5, kDown, {}, "0.004 mm"},
-               {20, kUp, {}, "20 mm", 0}};
+  } cases[] = {{2.3, kUp, {}, "3 mm"},         {3, kUp, {}, "4 mm"},
+               {2.3, kUp, kControl, "2.5 mm"}, {2.3, kUp, kControl | kShift, "5 mm"},
+               {2.3, kPageUp, {}, "10 mm"},    {19.5, kUp, kShift, "20 mm"},
+               {0.5, kDown, {}, "0.004 mm"},   {20, kUp, {}, "20 mm", 0}};
   for (const bool immediate : {false, true}) {
     World world(immediate);
     std::string heard;
@@ -124,29 +120,19 @@ TEST_F(NumericEditTest, TypedNumbersCountAtTheEndOrWithEachKey) {
     const char* shown;
     double whileTyped;
     int keys;  // that the immediate field notifies of
-  } cases[] = {{"5", "5 mm", 5, 1},          {"2,5", "2.5 mm", 2.5, 3}, {"1 cm", "10 mm", 10, 4},
-               {"99", "20 mm", 20, 2},       {"x", "3 mm", 3, 1},       {"", "3 mm", 3, 1},
-               {"0", "0.004 mm", 0.0035, 1}, {"50%", "1.5 mm", 0, 3}};
+  } cases[] = {
+      {"2,5", "2.5 mm", 2.5, 3}, {"1 cm", "10 mm", 10, 4}, {"99", "20 mm", 20, 2}, {"x", "3 mm", 3, 1}};
   for (const bool immediate : {false, true}) {
     World world(immediate);
     for (const auto& one : cases) {
-      const bool isPercentage = std::string(one.typed) == "50%";  // with each key of other numbers
-      if (immediate && isPercentage) continue;
       world.Start(3);
       world.Type(one.typed);
       EXPECT_EQ(world.Shown(), one.typed);
       EXPECT_EQ(world.Notified(), immediate ? one.keys : 0) << one.typed;
-      EXPECT_NEAR(world.Value(), immediate ? one.whileTyped : 3, 1e-4) << one.typed;
-      for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
-        QFocusEvent menu(type, Qt::PopupFocusReason);
-        QApplication::sendEvent(world.edit, &menu);
-        EXPECT_EQ(world.Shown(), one.typed);
-      }
+      EXPECT_NEAR(world.edit->GetValue(kMillimeterUnits), immediate ? one.whileTyped : 3, 1e-4) << one.typed;
       world.Key(Qt::Key_Tab);
-      EXPECT_FALSE(world.edit->HasFocus());
       EXPECT_EQ(world.Shown(), one.shown);
       EXPECT_EQ(world.Notified(), immediate ? 0 : 1) << one.typed;
-      EXPECT_FALSE(world.edit->IsModified());
     }
   }
 }
@@ -184,23 +170,15 @@ TEST_F(NumericEditTest, AnEmptyFieldStaysEmptyWhereItMay) {
   world.other->setFocus();
   EXPECT_EQ(world.Shown(), "3 mm") << "was not empty when the user came";
   world.edit->SetText("", false, false);
-  for (const auto& [typed, shown] : {std::pair{"", ""}, {"x", ""}, {"4", "4 mm"}}) {
+  for (const auto& [typed, shown] : {std::pair{"x", ""}, {"4", "4 mm"}}) {
     world.edit->setFocus();
-    if (*typed != '\0') world.Type(typed);
+    world.Type(typed);
     world.other->setFocus();
     EXPECT_EQ(world.Shown(), shown) << typed;
   }
-  world.edit->SetUnits(kPointUnits);
-  EXPECT_EQ(world.Shown(), "11.339 pt");
   world.edit->SetText("", false, false);
-  world.edit->SetUnits(kMillimeterUnits);
+  world.edit->SetUnits(kPointUnits);
   EXPECT_EQ(world.Shown(), "");
-  world.Notified();
-  world.edit->setFocus();
-  world.Key(Qt::Key_Return);
-  EXPECT_EQ(world.Notified(), 1) << "the default button";
-  world.edit->SetKeepEmpty(false);
-  EXPECT_EQ(world.Shown(), "4 mm");
 }
 
 }  // namespace
