@@ -140,7 +140,7 @@ Drawing& drawing(std::size_t count, Drawing::Kind kind) {
 template <typename AnyTest>
 void scan(benchmark::State& state, int every, const AnyTest& test) {
   countHits(test, every);  // warm
-  for (auto _ : state) benchmark::DoNotOptimize(countHits(test, every));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(countHits(test, every));
   const int rows = (kRows - every / 2 + every - 1) / every;
   state.SetItemsProcessed(state.iterations() * rows * kColumns);
 }

@@ -120,7 +120,7 @@ class Drawing {
 // Panels that are windows of their own.
 class WindowView : public host::PanelView {
  public:
-  explicit WindowView(const host::PanelRecord& panel) { setSize(panel.minimum); }
+  explicit WindowView(const host::PanelRecord& panel) { WindowView::setSize(panel.minimum); }
 
   NativeView* view() override { return NativeViewOf(&window_); }
   void show(bool show) override { window_.setVisible(show); }

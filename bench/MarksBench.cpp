@@ -178,7 +178,7 @@ void BM_HitTestThroughTheSuite(benchmark::State& state) {
   host.documents().open(drawing(static_cast<std::size_t>(state.range(0))), "drawing");
   holdSuites(host);
   double x = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     const AIRealPoint point{x, 400.5};
     AIHitRef hit = nullptr;
     AIHitData data{};

@@ -91,7 +91,7 @@ Figures measure(int segments) {
 
 void BM_ExportSmallDrawing(benchmark::State& state) {
   const std::string svg = stickers(1200);
-  for (auto _ : state) benchmark::DoNotOptimize(host::exportPdf(svg, nullptr, {}));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(host::exportPdf(svg, nullptr, {}));
 }
 BENCHMARK(BM_ExportSmallDrawing);
 

@@ -81,7 +81,7 @@ double timeOf(const PathData& data, int count) {
 
 void BM_SmallDrawing(benchmark::State& state) {
   const host::SvgDrawing drawing = drawingOf(curvedShape, 100);
-  for (auto _ : state) benchmark::DoNotOptimize(host::preflight(*drawing.document));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(host::preflight(*drawing.document));
 }
 BENCHMARK(BM_SmallDrawing);
 

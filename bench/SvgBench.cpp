@@ -91,7 +91,7 @@ Figures measure(std::size_t megabytes, const std::string& folder, double* memory
 
 void BM_OpenSmallDrawing(benchmark::State& state) {
   const std::string svg = drawingOfSize(100000);
-  for (auto _ : state) benchmark::DoNotOptimize(host::readSvg(svg, nullptr));
+  for ([[maybe_unused]] auto _ : state) benchmark::DoNotOptimize(host::readSvg(svg, nullptr));
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(svg.size()));
 }
 BENCHMARK(BM_OpenSmallDrawing);

@@ -11,7 +11,6 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char kEnglishTexts[] =
     "\"corvane \" : \"corvane\"\n"
