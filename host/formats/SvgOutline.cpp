@@ -13,12 +13,6 @@ namespace {
 // Where a control point of a quarter of the unit circle lies: 4/3 (sqrt 2 - 1).
 constexpr double kQuarterArc = 0.55228474983079339840;
 
-bool coincide(AIRealPoint a, AIRealPoint b) {
-  constexpr double relative = 1e-10;
-  const double size = std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
-  return std::abs(a.x - b.x) <= size * relative && std::abs(a.y - b.y) <= size * relative;
-}
-
 AIRealPoint between(AIRealPoint from, AIRealPoint to, double part) {
   return {from.x + (to.x - from.x) * part, from.y + (to.y - from.y) * part};
 }
@@ -99,6 +93,12 @@ void SvgOutline::close() {
   }
   open_ = false;
   current_ = start_;
+}
+
+bool SvgOutline::coincide(AIRealPoint a, AIRealPoint b) {
+  constexpr double relative = 1e-10;
+  const double size = std::max({std::abs(a.x), std::abs(a.y), std::abs(b.x), std::abs(b.y)});
+  return std::abs(a.x - b.x) <= size * relative && std::abs(a.y - b.y) <= size * relative;
 }
 
 void SvgOutline::addEllipse(AIRealPoint centre, AIRealPoint radii) {

@@ -21,6 +21,9 @@ class SvgOutline {
   void arcTo(AIRealPoint radii, double rotation, bool large, bool sweep, AIRealPoint to);
   // A last anchor on the first one is merged with it. What is drawn next without a move starts there.
   void close();
+  // Whether close() takes two places in user units for one: as near as sums of relative coordinates are
+  // exact.
+  static bool coincide(AIRealPoint a, AIRealPoint b);
 
   void addEllipse(AIRealPoint centre, AIRealPoint radii);
   // `radii` of 0 leave the corners sharp.

@@ -2,6 +2,7 @@
 
 #include "Geometry.h"
 #include "SvgNumber.h"
+#include "SvgOutline.h"
 
 namespace host {
 namespace {
@@ -46,8 +47,10 @@ class DataText {
 
 // Readers join a last anchor that lies on the first one, so that Z alone stands for a straight side
 // between two different places only.
-bool closesByItself(const AIPathSegment& last, const AIPathSegment& first) {
-  return same(last.p, last.out) && same(first.in, first.p) && !same(last.p, first.p);
+bool closesByItself(const AIPathSegment& last, const AIPathSegment& first,
+                    const AIRealMatrix& userFromDocument) {
+  return same(last.p, last.out) && same(first.in, first.p) &&
+         !SvgOutline::coincide(apply(userFromDocument, last.p), apply(userFromDocument, first.p));
 }
 
 }  // namespace
@@ -62,7 +65,7 @@ void appendPathData(std::string& data, const PathGeometry& path, const AIRealMat
   for (std::size_t i = 1; i < path.segments.size(); ++i) text.side(path.segments[i - 1], path.segments[i]);
   const bool isLone = path.segments.size() == 1;  // a move alone would not be read as a path
   if (!path.closed && !isLone) return;
-  if (path.closed && !closesByItself(last, first)) text.side(last, first);
+  if (path.closed && !closesByItself(last, first, userFromDocument)) text.side(last, first);
   text.command('Z');
 }
 
