@@ -1,6 +1,6 @@
-// Time that stands still while the program works and jumps to the next timer when it would wait: a session
-// runs as fast as it can, and with the same seed everything comes in the same order. The functions of the
-// system by which the event loop and the tests tell the time and wait are replaced in the whole program.
+// Time that stands still while the program works and jumps to the next timer when it would wait: what comes
+// first does not depend on the machine, and nobody waits. The functions of the system by which the event loop
+// and the tests tell the time and wait are replaced in the whole program.
 #include <poll.h>
 #include <pthread.h>
 #include <sys/syscall.h>
@@ -11,6 +11,9 @@
 #include <atomic>
 #include <cstdint>
 #include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <string>
 
 namespace {
 
@@ -32,9 +35,30 @@ timespec timeOf(std::int64_t nanoseconds) {
   return {nanoseconds / kSecond, nanoseconds % kSecond};
 }
 
+// Whether a thread of this process works or waits for a disk. Source: proc(5), the third field of `stat`.
+bool isBusy(const std::filesystem::path& thread) {
+  std::ifstream file(thread / "stat");
+  std::string stat;
+  std::getline(file, stat);
+  const std::size_t nameEnd = stat.rfind(')');
+  return nameEnd != std::string::npos &&
+         (stat.compare(nameEnd, 3, ") R") == 0 || stat.compare(nameEnd, 3, ") D") == 0);
+}
+
+bool areOthersBusy() {
+  const std::string self = std::to_string(syscall(SYS_gettid));
+  std::error_code gone;  // a thread that ends meanwhile
+  for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task", gone)) {
+    if (thread.path().filename() != self && isBusy(thread.path())) return true;
+  }
+  return false;
+}
+
 // What other threads have begun is done at the time it was begun.
 void finishOtherThreads() {
   if (QCoreApplication::instance() != nullptr) QThreadPool::globalInstance()->waitForDone();
+  constexpr timespec kGlance{0, kMillisecond / 10};
+  while (areOthersBusy()) syscall(SYS_nanosleep, &kGlance, nullptr);
 }
 
 int pollSystem(pollfd* files, nfds_t count, const timespec* longest, const sigset_t* signals) {
