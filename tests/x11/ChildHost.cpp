@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::chrono::seconds kPatience(30);
+constexpr std::chrono::seconds kPatience(120);
 
 [[noreturn]] void becomeHost(const std::string& home, const std::vector<std::string>& arguments) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -52,6 +52,19 @@ bool ChildHost::hasOpen(const std::string& folder) const {
     if (fs::read_symlink(file->path(), gone).string().rfind(folder + "/", 0) == 0) return true;
   }
   return false;
+}
+
+bool ChildHost::killIf(const std::function<bool()>& isSo) {
+  ::kill(process_, SIGSTOP);
+  int status = 0;
+  waitpid(process_, &status, WUNTRACED);
+  if (!WIFSTOPPED(status)) throw std::runtime_error("the program ended by itself");
+  const bool ends = isSo();
+  if (ends)
+    kill();
+  else
+    ::kill(process_, SIGCONT);
+  return ends;
 }
 
 void ChildHost::kill() {

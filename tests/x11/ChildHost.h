@@ -3,6 +3,7 @@
 
 #include <sys/types.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,11 @@ class ChildHost {
     return devices.focusWindowOf(process_, isDialog).has_value();
   }
   bool hasOpen(const std::string& folder) const;  // some file in it, with or without a name
-  void kill();                                    // without a chance to tidy up
-  int waitForEnd();                               // the exit code; -1 after a signal
+  // Asks while the program stands still, and kills it if the answer is yes; tells whether it did. Throws
+  // std::runtime_error if the program has ended by itself.
+  bool killIf(const std::function<bool()>& isSo);
+  void kill();       // without a chance to tidy up
+  int waitForEnd();  // the exit code; -1 after a signal
 
  private:
   pid_t process_;
