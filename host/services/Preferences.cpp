@@ -2,14 +2,17 @@
 
 #include <algorithm>
 #include <charconv>
+#include <chrono>
 #include <cmath>
 #include <filesystem>
 #include <limits>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <utility>
 
 #include "AtomicFile.h"
+#include "FileLock.h"
 #include "Utf8.h"
 
 namespace host {
@@ -20,6 +23,10 @@ using Key = std::pair<std::string, std::string>;
 
 // Values have two; what another program has put there is kept, but storing it takes stack for each level.
 constexpr int kMostLevels = 100;
+
+// Others hold the lock while they read and write one small file.
+constexpr std::chrono::seconds kLongestWait(1);
+constexpr char kHeldByOthers[] = "another program keeps them locked";
 
 // An overlay that takes the kind it is asked for.
 struct UntypedText {
@@ -95,6 +102,34 @@ bool isObjectOfObjects(const Json& json) {
          std::all_of(json.begin(), json.end(), [](const Json& member) { return member.is_object(); });
 }
 
+// Nullopt if the bytes are no preferences; `reason` then says why, with the place.
+std::optional<Json> parsed(const std::string& bytes, std::string& reason) {
+  try {
+    bool isTooDeep = false;
+    Json json = Json::parse(bytes, [&isTooDeep](int depth, Json::parse_event_t, const Json&) {
+      isTooDeep = isTooDeep || depth > kMostLevels;
+      return !isTooDeep;
+    });
+    if (!isTooDeep && isObjectOfObjects(json)) return std::make_optional(std::move(json));
+    reason = isTooDeep ? "nested too deeply" : "not an object of objects";
+  } catch (const Json::out_of_range&) {
+    reason = "a number is out of range";
+  } catch (const Json::parse_error& error) {
+    const auto end = bytes.begin() + static_cast<std::ptrdiff_t>(std::min(error.byte, bytes.size()));
+    reason = "not valid JSON in line " + std::to_string(std::count(bytes.begin(), end, '\n') + 1);
+  }
+  return std::nullopt;
+}
+
+// What the file says now; no preferences if there is no file.
+std::optional<Json> stored(const std::string& file, std::string& reason) {
+  std::error_code ignored;
+  const auto status = std::filesystem::symlink_status(file, ignored);
+  if (status.type() == std::filesystem::file_type::not_found) return std::make_optional(Json::object());
+  const auto bytes = readFile(file, &reason);
+  return bytes ? parsed(*bytes, reason) : std::nullopt;
+}
+
 std::string inQuotes(std::string_view text) {
   return "\"" + std::string(text) + "\"";
 }
@@ -127,9 +162,8 @@ void makeFolderOf(const std::string& file) {
 struct Preferences::Store {
   Json values = Json::object();
   std::map<Key, Overlay> overlays;
+  std::set<Key> changed;  // since the last save
   std::string file;
-  bool modified = false;
-  bool fileIsBroken = false;
 
   const Json* find(const Key& key) const {
     const auto group = values.find(key.first);
@@ -150,30 +184,23 @@ struct Preferences::Store {
     return value;
   }
 
-  // The reason why the bytes are no preferences, with its place; empty if they are.
-  std::string read(const std::string& bytes) {
-    try {
-      bool isTooDeep = false;
-      Json read = Json::parse(bytes, [&isTooDeep](int depth, Json::parse_event_t, const Json&) {
-        isTooDeep = isTooDeep || depth > kMostLevels;
-        return !isTooDeep;
-      });
-      if (isTooDeep) return "nested too deeply";
-      if (!isObjectOfObjects(read)) return "not an object of objects";
-      values = std::move(read);
-      return {};
-    } catch (const Json::out_of_range&) {
-      return "a number is out of range";
-    } catch (const Json::parse_error& error) {
-      const auto end = bytes.begin() + static_cast<std::ptrdiff_t>(std::min(error.byte, bytes.size()));
-      return "not valid JSON in line " + std::to_string(std::count(bytes.begin(), end, '\n') + 1);
-    }
+  // Lays what was put since the last save over what others have stored meanwhile.
+  void layOver(Json& others) const {
+    for (const Key& key : changed) others[key.first][key.second] = *find(key);
   }
 
-  // Throws std::filesystem::filesystem_error; then the file must not be written.
-  void setAsideBroken() {
-    if (fileIsBroken && std::filesystem::exists(file)) std::filesystem::rename(file, nameForBroken(file));
-    fileIsBroken = false;
+  // Writes what was put since the last save into what lies in the file, whoever wrote it; throws
+  // std::filesystem::filesystem_error. Empty, or a clause on why not.
+  std::string merge() const {
+    std::string ignored;
+    std::optional<Json> merged = stored(file, ignored);
+    if (merged) {
+      layOver(*merged);
+    } else {
+      if (std::filesystem::exists(file)) std::filesystem::rename(file, nameForBroken(file));
+      merged.emplace(values);
+    }
+    return replaceFile(file, merged->dump(2) + "\n");
   }
 };
 
@@ -187,30 +214,44 @@ Preferences Preferences::load(std::string file, std::string& complaint) {
   Store& store = *preferences.store_;
   store.file = std::move(file);
   complaint.clear();
-  std::error_code ignored;
-  const auto status = std::filesystem::symlink_status(store.file, ignored);
-  if (status.type() == std::filesystem::file_type::not_found) return preferences;
   std::string reason;
-  if (const auto bytes = readFile(store.file, &reason)) reason = store.read(*bytes);
-  store.fileIsBroken = !reason.empty();
-  if (store.fileIsBroken) complaint = complaintAbout(store.file, reason);
+  if (auto values = stored(store.file, reason)) {
+    store.values = std::move(*values);
+  } else {
+    complaint = complaintAbout(store.file, reason);
+  }
   return preferences;
 }
 
 std::string Preferences::save() {
-  if (!store_->modified || store_->file.empty()) return {};
+  if (store_->changed.empty() || store_->file.empty()) return {};
   std::string reason;
   try {
     makeFolderOf(store_->file);
-    store_->setAsideBroken();
-    reason = replaceFile(store_->file, store_->values.dump(2) + "\n");
+    bool isHeld = false;
+    // Where there can be no lock it goes without: nobody else has one there either.
+    const auto lock = FileLock::waitAtMost(kLongestWait, store_->file + ".lock", isHeld);
+    reason = isHeld ? kHeldByOthers : store_->merge();
   } catch (const std::filesystem::filesystem_error& error) {
     reason = error.code().message();
   }
   if (!reason.empty())
     return "The preferences could not be stored in " + inQuotes(store_->file) + ": " + reason + ".";
-  store_->modified = false;
+  store_->changed.clear();
   return {};
+}
+
+void Preferences::catchUp(std::string_view prefix) {
+  if (store_->file.empty()) return;
+  std::string ignored;
+  std::optional<Json> others = stored(store_->file, ignored);
+  if (!others) return;
+  store_->layOver(*others);
+  const std::string group = validUtf8(prefix);
+  store_->values.erase(group);
+  if (const auto found = others->find(group); found != others->end()) {
+    store_->values[group] = std::move(*found);
+  }
 }
 
 bool Preferences::exists(std::string_view prefix, std::string_view suffix) const {
@@ -243,7 +284,7 @@ bool Preferences::put(std::string_view prefix, std::string_view suffix, Preferen
   // Json compares 1 and 1.0 as equal, but they are of different kinds here.
   if (place.type() == json.type() && place == json) return true;
   place = std::move(json);
-  store_->modified = true;
+  store_->changed.insert(key);
   return true;
 }
 

@@ -24,10 +24,15 @@ class Preferences {
   ~Preferences();
 
   // Reads the file, which need not exist. `complaint` is empty, or one sentence on why the file could not
-  // be understood; the store is then empty and the first save sets the file aside under another name.
+  // be understood; the store is then empty. A save that finds such a file sets it aside under another name.
   static Preferences load(std::string file, std::string& complaint);
-  // Writes the stored values, if any changed since the last save. Empty, or one sentence on why not.
+  // Writes the values that were put since the last save into what lies in the file by then, so that programs
+  // which share it keep each other's. Waits a second at most for one that is just writing. Empty, or one
+  // sentence on why not: the next save then tries again.
   std::string save();
+  // Takes over what others have stored under the prefix meanwhile, but for what was put here and not saved
+  // yet. Without it a value stays what it was when the file was read, or what was put here.
+  void catchUp(std::string_view prefix);
 
   bool exists(std::string_view prefix, std::string_view suffix) const;
   // Nullopt if there is no such key or it holds a value of another kind.

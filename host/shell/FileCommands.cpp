@@ -5,7 +5,9 @@
 #include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <utility>
 
 #include "Autosave.h"
@@ -177,28 +179,41 @@ bool FileCommands::saveOrAskWhere(OpenDrawing& drawing) {
 
 // --- closing ---
 
-bool FileCommands::mayLose(OpenDrawing& drawing) {
-  if (!drawing.isModified()) return true;
-  parts_.tabs.turnTo(drawing);
-  switch (askAboutUnsaved(titleOf(drawing), &parts_.window)) {
-    case UnsavedAnswer::Save:
-      return saveOrAskWhere(drawing);
-    case UnsavedAnswer::Discard:
-      return true;
-    case UnsavedAnswer::Cancel:
-      break;
+bool FileCommands::mayLose(const std::vector<OpenDrawing*>& drawings) {
+  std::vector<OpenDrawing*> changed;
+  std::copy_if(drawings.begin(), drawings.end(), std::back_inserter(changed),
+               [](const OpenDrawing* drawing) { return drawing->isModified(); });
+  for (auto rest = changed.begin(); rest != changed.end(); ++rest) {
+    parts_.tabs.turnTo(**rest);
+    const auto others = static_cast<std::size_t>(changed.end() - rest) - 1;
+    switch (askAboutUnsaved(titleOf(**rest), others, &parts_.window)) {
+      case UnsavedAnswer::Save:
+        if (!saveOrAskWhere(**rest)) return false;
+        break;
+      case UnsavedAnswer::SaveAll:
+        return std::all_of(rest, changed.end(), [this](OpenDrawing* drawing) {
+          parts_.tabs.turnTo(*drawing);
+          return saveOrAskWhere(*drawing);
+        });
+      case UnsavedAnswer::Discard:
+        break;
+      case UnsavedAnswer::DiscardAll:
+        return true;
+      case UnsavedAnswer::Cancel:
+        return false;
+    }
   }
-  return false;
+  return true;
 }
 
 void FileCommands::close(OpenDrawing& drawing) {
-  if (mayLose(drawing)) drop(drawing);
+  if (mayLose({&drawing})) drop(drawing);
 }
 
 bool FileCommands::closeAll() {
-  for (const auto& drawing : parts_.workspace.all()) {
-    if (!mayLose(*drawing)) return false;
-  }
+  std::vector<OpenDrawing*> drawings;
+  for (const auto& drawing : parts_.workspace.all()) drawings.push_back(drawing.get());
+  if (!mayLose(drawings)) return false;
   while (OpenDrawing* drawing = parts_.drawing()) drop(*drawing);
   return true;
 }

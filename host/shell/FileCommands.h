@@ -27,7 +27,7 @@ class FileCommands {
 
   // Closes it, after asking what is to become of unsaved changes.
   void close(OpenDrawing& drawing);
-  // The same with all of them; false, and none is closed, if the user thought better of it.
+  // The same with all of them; false, and none is closed, if the user thought better of it or a save failed.
   bool closeAll();
 
   // To be called after documents may have changed.
@@ -43,7 +43,9 @@ class FileCommands {
 
   bool saveTo(OpenDrawing& drawing, const std::string& file);
   bool saveOrAskWhere(OpenDrawing& drawing);
-  bool mayLose(OpenDrawing& drawing);
+  // Asks about each that has changes, or about the rest of them at once. False if the user thought better of
+  // it, or a drawing that is to be saved was not.
+  bool mayLose(const std::vector<OpenDrawing*>& drawings);
   void drop(const OpenDrawing& drawing);  // unasked
   void changeRecent();
   void listRecent();

@@ -21,6 +21,8 @@ class RecentFiles {
   void clear();
 
  private:
+  std::vector<std::string> without(const std::string& file);  // those of all windows
+
   WindowSettings& settings_;
 };
 

@@ -75,9 +75,14 @@ std::vector<std::string> WindowSettings::recentFiles() const {
   std::vector<std::string> files;
   for (std::size_t i = 0; i < kRecentFiles; ++i) {
     std::string file = preferences_.string(kPrefix, recentKey(i)).value_or(std::string());
-    if (!file.empty()) files.push_back(std::move(file));
+    const bool isNew = std::find(files.begin(), files.end(), file) == files.end();
+    if (!file.empty() && isNew) files.push_back(std::move(file));
   }
   return files;
+}
+
+void WindowSettings::catchUp() {
+  preferences_.catchUp(kPrefix);
 }
 
 void WindowSettings::setRecentFiles(const std::vector<std::string>& files) {

@@ -29,6 +29,9 @@ class WindowSettings {
   ExportExtras exportExtras() const;
   void setExportExtras(const ExportExtras& extras);
 
+  // Takes over what other windows of the user have chosen meanwhile.
+  void catchUp();
+
   std::vector<std::string> recentFiles() const;  // absolute paths, the latest first
   void setRecentFiles(const std::vector<std::string>& files);
 

@@ -101,6 +101,69 @@ TEST_F(WindowTest, NothingIsWrittenOverAFileThatIsOpen) {
   EXPECT_TRUE(readText(other) == squareOnPage(10) && readText(own) == squareOnPage(20));
 }
 
+// Answers one box after another, each with a key, "!" for Return and "." for Escape. What was asked is noted
+// as in "a5": about a.svg, with five buttons.
+class BoxAnswers {
+ public:
+  explicit BoxAnswers(std::string keys) : keys_(std::move(keys)) { waitForNext(); }
+  std::string asked;
+
+ private:
+  void waitForNext() {
+    answer_.emplace([this](QDialog& dialog) {
+      const std::string text = qobject_cast<QMessageBox*>(&dialog)->text().toStdString();
+      const char key = asked.size() / 2 < keys_.size() ? keys_[asked.size() / 2] : '.';
+      asked += text[text.find(".svg") - 1] + std::to_string(dialog.findChildren<QPushButton*>().size());
+      QObject::connect(
+          &dialog, &QDialog::finished, &context_, [this] { waitForNext(); }, Qt::QueuedConnection);
+      QTest::keyClick(&dialog, key == '!' ? Qt::Key_Return : key == '.' ? Qt::Key_Escape : Qt::Key(key));
+    });
+  }
+
+  const std::string keys_;
+  std::optional<BoxAnswer> answer_;
+  QObject context_;
+};
+
+TEST_F(WindowTest, QuittingAsksAboutEachChangedDrawingOrAllAtOnce) {
+  const struct {
+    std::string changed, keys, asked, saved;
+    bool closes;
+  } rows[] = {
+      {"b", "!", "b3", "b", true},       {"c", ".", "c3", "", false},
+      {"abc", "I", "a5", "", true},      {"abc", "A", "a5", "abc", true},
+      {"abc", ".", "a5", "", false},     {"ac", "!D", "a5c3", "a", true},
+      {"abc", "DA", "a5b5", "bc", true}, {"abc", "SD.", "a5b5c3", "a", false},
+      {"bd", "A!", "b5d1", "b", false},
+  };
+  const auto quit = [&](const std::string& keys) {
+    BoxAnswers answers(keys);
+    window.close();
+    return answers.asked;
+  };
+  const std::string svg = squareOnPage();
+  for (const auto& row : rows) {
+    window.show();
+    for (const char* name : {"a.svg", "b.svg", "c.svg", "d/d.svg"}) {
+      window.openFiles({scratch.write(name, svg)});
+      if (row.changed.find(name[0]) == std::string::npos) continue;
+      world.document().beginStep("Rename");
+      world.document().editLayer(world.document().state().layers[0]).title = "Renamed";
+      world.document().endStep();
+    }
+    fs::remove_all(scratch.file("d"));  // d can't be saved
+    EXPECT_EQ(quit(row.keys), row.asked);
+    EXPECT_NE(window.isVisible(), row.closes);
+    std::string saved;
+    for (const char* name : {"a.svg", "b.svg", "c.svg"}) {
+      if (scratch.read(name) != svg) saved += name[0];
+    }
+    EXPECT_EQ(saved, row.saved);
+    EXPECT_EQ(world.host.documents().all().size(), row.closes ? 0U : 4U) << "none is closed, or all are";
+    quit("DDD");
+  }
+}
+
 TEST_F(WindowTest, RemarksAreCountedAndListed) {
   window.openFiles({scratch.write(
       "odd.svg",

@@ -147,14 +147,19 @@ TEST_F(WindowPanelTest, KeepsItsLimitsWhateverRoomThereIs) {
   panels.Move(panel, 40, 40);
   panels.Show(panel, 1);
   settle();
+  EXPECT_FALSE(dock().isFloating()) << "at first it covers no art";
+  click("Float");
+  settle();
   ASSERT_TRUE(dock().isFloating());
   EXPECT_EQ(dock().pos(), QPoint(40, 40));
+  panels.Move(panel, 50, 40);
+  EXPECT_EQ(dock().pos(), QPoint(50, 40));
   takeTold();
   struct Row {
     QSize room;
     AISize got;
   };
-  const QSize around = dock().size() - viewOf(panel).size();
+  const QSize around = dock().size() - dock().widget()->size();
   for (const Row& row :
        {Row{{250, 200}, {250, 190}}, Row{{10, 10}, {200, 100}}, Row{{900, 900}, {300, 400}}}) {
     dock().resize(row.room + around);

@@ -37,7 +37,7 @@ PanelDock::PanelDock(QMainWindow& window, const std::string& identifier, const F
 
 PanelTitle::Commands PanelDock::commands() {
   return {[this] { changeState(); }, [this] { openMenu(); }, [this] { collapse(!holder_->isCollapsed()); },
-          [this] { setFloating(!isFloating()); }, [this] { setShown(false); }};
+          [this] { floatOrDock(); }, [this] { setShown(false); }};
 }
 
 // --- place ---
@@ -72,14 +72,22 @@ PanelPlace PanelDock::place() {
 }
 
 void PanelDock::moveTo(QPoint corner) {
-  if (hasPlace_ && !isFloating()) return;
-  setFloating(true);
-  hasPlace_ = false;
-  move(onAScreen(corner));
+  if (isFloating()) {
+    move(onAScreen(corner));
+  } else if (!hasPlace_) {
+    firstCorner_ = corner;
+  }
+}
+
+void PanelDock::floatOrDock() {
+  const std::optional<QPoint> corner = firstCorner_;
+  setFloating(!isFloating());
+  if (corner && isFloating()) move(onAScreen(*corner));
 }
 
 void PanelDock::floatingChanged() {
   hasPlace_ = true;
+  firstCorner_.reset();
   refresh();
   onChange_();
   // Without a compositor, what a floating panel lay over still shows it.

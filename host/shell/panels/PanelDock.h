@@ -3,6 +3,7 @@
 
 #include <QDockWidget>
 #include <functional>
+#include <optional>
 
 #include "PanelHolder.h"
 #include "PanelPlaces.h"
@@ -24,8 +25,9 @@ class PanelDock : public QDockWidget {
     PanelHolder::Limits limits;
   };
 
-  // Hidden, its view of the least size. Becomes the window's; `view` stays the caller's. The identifier is
-  // what the place is remembered by. `onChange` is called when the place or the visibility has changed.
+  // Docked and hidden, its view of the least size. Becomes the window's; `view` stays the caller's. The
+  // identifier is what the place is remembered by. `onChange` is called when the place or the visibility has
+  // changed.
   PanelDock(QMainWindow& window, const std::string& identifier, const Face& face, QWidget& view,
             std::function<void()> onChange);
 
@@ -39,7 +41,9 @@ class PanelDock : public QDockWidget {
   bool isShown() const { return isShown_; }
   void setViewSize(QSize size);
   QSize viewSize() const { return holder_->viewSize(); }
-  void moveTo(QPoint corner);  // if it floats, or has no place of last time
+  // If it floats. A panel that has no place of last time stays docked, where it covers no art, and goes there
+  // when the user first lets it float.
+  void moveTo(QPoint corner);
   void collapse(bool isCollapsed);
   // For a menu: shows or hides the panel. The caller's.
   QAction* makeAction(QObject& parent);
@@ -63,6 +67,7 @@ class PanelDock : public QDockWidget {
 
  private:
   PanelTitle::Commands commands();
+  void floatOrDock();
   void floatingChanged();
   void takeRoom();
 
@@ -74,6 +79,7 @@ class PanelDock : public QDockWidget {
   bool isShown_ = false;
   bool wasToldToShow_ = false;  // or to hide, since it is there
   bool hasPlace_ = false;       // of last time, or by the user's will
+  std::optional<QPoint> firstCorner_;
 };
 
 }  // namespace host

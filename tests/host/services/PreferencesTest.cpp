@@ -1,9 +1,11 @@
+#include "FileLock.h"
 #include "Preferences.h"
 #include "ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <limits>
@@ -46,16 +48,8 @@ TEST_F(PreferencesTest, KeepsKindsFromRunToRun) {
   EXPECT_FALSE(second.integer("Corvane", "Size")) << "a value of another kind is no such key";
   EXPECT_FALSE(second.boolean("Corvane", "third"));
   EXPECT_TRUE(second.exists("Corvane", "Size") && !second.exists("Corvane", "r"));
-  EXPECT_EQ(std::distance(fs::directory_iterator(scratch_.path / "host"), fs::directory_iterator()), 1);
-}
-
-TEST_F(PreferencesTest, KeepsWhatItDoesNotKnow) {
-  scratch_.write(name_, R"({"P": {"list": [1, 2], "big": 5000000000, "none": null, "n": 4}})");
-  Preferences preferences = load();
-  EXPECT_FALSE(preferences.integer("P", "big"));
-  preferences.put("P", "n", 5);
-  EXPECT_EQ(preferences.save(), "");
-  EXPECT_THAT(scratch_.read(name_), testing::AllOf(HasSubstr("\"big\": 5000000000"), HasSubstr("\"list\"")));
+  EXPECT_EQ(std::distance(fs::directory_iterator(scratch_.path / "host"), fs::directory_iterator()), 2)
+      << "the file and its lock";
 }
 
 TEST_F(PreferencesTest, SetsABrokenFileAsideBeforeItIsOverwritten) {
@@ -78,12 +72,53 @@ TEST_F(PreferencesTest, SetsABrokenFileAsideBeforeItIsOverwritten) {
   }
 }
 
+TEST_F(PreferencesTest, ProgramsThatShareAFileKeepEachOthersValues) {
+  scratch_.write(name_, R"({"P": {"ours": 1, "theirs": 1, "both": 1, "gone": 1}, "Gone": {"n": 1}})");
+  Preferences ours = load(), theirs = load();
+  ours.put("P", "ours", 2);
+  ours.put("P", "both", 2);
+  theirs.put("P", "both", 3);
+  theirs.put("P", "theirs", 3);
+  theirs.put("New", "n", 3);
+  for (Preferences* one : {&theirs, &ours}) EXPECT_EQ(one->save(), "");
+  const Preferences merged = load();
+  EXPECT_EQ(merged.integer("P", "ours"), 2);
+  EXPECT_EQ(merged.integer("P", "both"), 2) << "the last one to store it";
+  EXPECT_EQ(merged.integer("P", "theirs"), 3);
+  EXPECT_TRUE(merged.exists("New", "n") && merged.exists("Gone", "n"));
+  EXPECT_EQ(ours.integer("P", "theirs"), 1) << "nothing changes under a plug-in's hands";
+
+  // Somebody has taken values out, and put in what this version does not know.
+  scratch_.write(name_, R"({"P": {"theirs": 4, "both": 4, "list": [1, 2], "big": 5000000000}})");
+  ours.put("P", "both", 5);
+  ours.catchUp("P");
+  ours.catchUp("Gone");
+  EXPECT_EQ(ours.integer("P", "theirs"), 4);
+  EXPECT_EQ(ours.integer("P", "both"), 5) << "put, and not stored yet";
+  EXPECT_FALSE(ours.exists("P", "gone") || ours.exists("Gone", "n") || ours.integer("P", "big"));
+  theirs.put("P", "ours", 6);
+  for (Preferences* one : {&ours, &theirs}) EXPECT_EQ(one->save(), "");
+  std::string stored = scratch_.read(name_);
+  stored.erase(std::remove_if(stored.begin(), stored.end(), [](char c) { return c == ' ' || c == '\n'; }),
+               stored.end());
+  EXPECT_EQ(stored, R"({"P":{"big":5000000000,"both":5,"list":[1,2],"ours":6,"theirs":4}})");
+}
+
 TEST_F(PreferencesTest, SaysWhyItCanNotStore) {
   scratch_.write("host", "in the way");
   Preferences preferences = load();
   preferences.put("P", "n", 1);
   EXPECT_THAT(preferences.save(), HasSubstr(file_));
   EXPECT_EQ(scratch_.read("host"), "in the way");
+
+  fs::remove(scratch_.file("host"));
+  scratch_.write(name_, "{}");
+  auto lock = host::FileLock::attempt(file_ + ".lock");
+  EXPECT_THAT(preferences.save(), HasSubstr("another program keeps them locked"));
+  EXPECT_EQ(scratch_.read(name_), "{}");
+  lock.reset();
+  EXPECT_EQ(preferences.save(), "");
+  EXPECT_EQ(load().integer("P", "n"), 1) << "kept for the next save";
 }
 
 TEST_F(PreferencesTest, OverlaysHideStoredValuesAndAreNotWritten) {

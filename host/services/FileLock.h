@@ -1,6 +1,7 @@
 // A lock that ends with the process that holds it, however that ends.
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <utility>
@@ -14,6 +15,9 @@ class FileLock {
   static std::optional<FileLock> wait(const std::string& file);
   // Nullopt also if somebody else holds the lock.
   static std::optional<FileLock> attempt(const std::string& file);
+  // Nullopt also if somebody else holds the lock for as long as that; `isHeld` then becomes true, else false.
+  static std::optional<FileLock> waitAtMost(std::chrono::milliseconds most, const std::string& file,
+                                            bool& isHeld);
 
   FileLock(FileLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
   FileLock& operator=(FileLock&& other) noexcept {
