@@ -56,6 +56,7 @@ SvgArtReader::SvgArtReader(SvgReading& reading)
       bodies_(reading, texts_, clips_) {}
 
 void SvgArtReader::readLayers() {
+  reading_.paints.remarkGroup(source_.root());
   for (const SvgLayerPlan& plan : planLayers(source_)) readLayer(plan);
 }
 

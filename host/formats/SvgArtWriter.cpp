@@ -147,9 +147,17 @@ std::string SvgArtWriter::newTag(std::string_view element, ArtId id, const SvgPl
   return tag;
 }
 
+std::string SvgArtWriter::kindAttribute(std::string_view kind, const SvgPlace& place) {
+  std::string text;
+  appendAttribute(text, writing_.prefixes.name(place.parent, XmlNamespace::Host, kHostKind, place.scope),
+                  kind);
+  return text;
+}
+
 SvgNewContent SvgArtWriter::newGroup(ArtId id, const SvgPlace& place) {
   SvgNewContent result;
   result.add(newTag("g", id, place));
+  if (isOverlooked(writing_, id)) result.add(kindAttribute("group", place));
   if (writing_.document.art(id)->firstChild == 0) {
     result.add("/>");
     return result;
@@ -169,10 +177,7 @@ std::string SvgArtWriter::newPath(ArtId id, const SvgPlace& place) {
     const SvgStyleWords words = styleWords(*art.style, writing_.document, place.documentUnitsPerUser);
     tag += newStyleAttributes(words, place.parent, writing_.declared, writing_.prefixes, place.scope);
   }
-  if (isShortCompound(id)) {
-    appendAttribute(tag, writing_.prefixes.name(place.parent, XmlNamespace::Host, kHostKind, place.scope),
-                    "compound");
-  }
+  if (isShortCompound(id)) tag += kindAttribute("compound", place);
   appendAttribute(tag, "d", pathData(id, place.userFromDocument));
   return tag + "/>";
 }
@@ -180,7 +185,7 @@ std::string SvgArtWriter::newPath(ArtId id, const SvgPlace& place) {
 void SvgArtWriter::editKept(ArtId id, NodeIndex element) {
   const Art& before = *writing_.changes.original(id);
   const Art& now = *writing_.document.art(id);
-  const bool changed = now.name != before.name || movedUnderSheets_ > 0 ||
+  const bool changed = now.name != before.name || movedUnderSheets_ > 0 || isOverlooked(writing_, id) ||
                        losesSwitch(writing_, id, element) || isHiddenBySwitch(id, element) ||
                        (isPath(now) && (looksDifferent(id) || writing_.changes.isReshaped(id)));
   if (changed && writing_.canEdit(element)) {
@@ -202,6 +207,7 @@ void SvgArtWriter::editObject(ArtId id, NodeIndex element, SvgTagEdit& tag) {
   const Art& now = *writing_.document.art(id);
   if (now.name != writing_.changes.model(id)->name) tag.set(XmlNamespace::Inkscape, "label", now.name);
   if (losesSwitch(writing_, id, element)) tag.rename("g");
+  if (isOverlooked(writing_, id)) tag.set(XmlNamespace::Host, kHostKind, "group");
   if (isHiddenBySwitch(id, element)) tag.setInStyle("display", "none");
   if (!isPath(now)) return;
   if (writing_.changes.isReshaped(id)) editOutline(id, element, tag);

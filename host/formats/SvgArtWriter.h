@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "SvgTagEdit.h"
@@ -34,6 +35,7 @@ class SvgArtWriter {
   SvgNewContent newGroup(ArtId id, const SvgPlace& place);
   std::string newPath(ArtId id, const SvgPlace& place);
   std::string newTag(std::string_view element, ArtId id, const SvgPlace& place);
+  std::string kindAttribute(std::string_view kind, const SvgPlace& place);
   void insertRun(const std::vector<ArtId>& run, const SvgSpot& spot);
 
   void editKept(ArtId id, NodeIndex element);

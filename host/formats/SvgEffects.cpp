@@ -20,6 +20,12 @@ bool stretches(const AIRealMatrix& matrix) {
   return std::abs(x - y) > 2 * kVisible * x || std::abs(slant) > kVisible * x;
 }
 
+AIRealPoint axisOf(const AIRealMatrix& documentFromUser) {
+  const double length = std::hypot(documentFromUser.a, documentFromUser.b);
+  if (!(length > 0)) return {1, 0};
+  return {documentFromUser.a / length, documentFromUser.b / length};
+}
+
 SvgEffect effectOf(const SvgStyle& style, bool isShape, const AIRealMatrix& documentFromUser) {
   SvgEffect effect;
   effect.opacity = style.opacity;
@@ -27,10 +33,12 @@ SvgEffect effectOf(const SvgStyle& style, bool isShape, const AIRealMatrix& docu
   effect.strokeOpacity = style.strokeOpacity;
   effect.masked = style.masked;
   effect.filtered = style.filtered;
+  effect.isolated = style.isolated;
   effect.marked = isShape && style.markers != 0;
   effect.reordered = isShape && style.reordered;
   effect.stretched = isShape && !style.nonScalingStroke && stretches(documentFromUser);
   effect.dashesCut = isShape && style.dashCount > style.dashes.size();
+  effect.axis = axisOf(documentFromUser);
   effect.blendMode = style.blendMode;
   return effect;
 }

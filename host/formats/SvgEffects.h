@@ -14,10 +14,12 @@ struct SvgEffect {
   double strokeOpacity = 1;
   bool masked = false;
   bool filtered = false;
+  bool isolated = false;       // what lies in it is mixed with nothing but what else lies in it
   bool marked = false;         // has markers, if it is a shape
   bool reordered = false;      // painted in another order than fill, stroke, markers
   bool stretched = false;      // its stroke is wider in one direction than in another
   bool dashesCut = false;      // its dash pattern is longer than a document holds
+  AIRealPoint axis{1, 0};      // where its x axis points in the document; of length 1
   std::string_view blendMode;  // such as "multiply"; empty: normal
 
   bool actsOnWhole() const { return opacity < 1 || masked || filtered; }

@@ -6,6 +6,8 @@
 //   ch:fill="cmyk(0 0 0 1)"        the paint that `fill` shows an RGB fallback of; likewise ch:stroke
 //   ch:fill-overprint="true"       likewise ch:stroke-overprint
 //   ch:kind="compound"             a compound path although it has but one subpath, or none
+//   ch:kind="group"                a group although it has no content and no name: programs leave such ones
+//                                  behind, which do not count
 //   ch:added="layer"               a layer that this host added: leave it out of account when telling
 //                                  whether a file has layers of its own
 //   ch:title=""                    a layer without a title, which would be called by its id otherwise

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "SvgElements.h"
 #include "SvgHostText.h"
 
 namespace host {
@@ -82,8 +81,7 @@ SvgLayerForms::Taken SvgLayerForms::takenFor(ArtId child) const {
   const NodeIndex model = art.copyOf == 0 ? 0 : writing_.changes.originalElementOf(art.copyOf);
   const NodeIndex element = writing_.changes.elementOf(child);
   if (element != 0 || model != 0) return groupTakenFor(child, element != 0 ? element : model, element == 0);
-  if (!art.name.empty()) return Taken::NamedGroup;
-  return art.firstChild == 0 ? Taken::Nothing : Taken::Art;
+  return art.name.empty() ? Taken::Art : Taken::NamedGroup;
 }
 
 SvgLayerForms::Taken SvgLayerForms::groupTakenFor(ArtId group, NodeIndex element, bool isCopy) const {
@@ -97,16 +95,8 @@ SvgLayerForms::Taken SvgLayerForms::groupTakenFor(ArtId group, NodeIndex element
     return Taken::Layer;
   }
   const bool hasId = !has(XmlNamespace::None, "id", "");
-  if (!art.name.empty() || (hasId && !isCopy) || !has(XmlNamespace::None, "data-name", "")) {
-    return Taken::NamedGroup;
-  }
-  const std::uint32_t attributesGone = isCopy && hasId ? 1 : 0;
-  bool holdsMore = source.node(element).attributeCount > attributesGone || art.firstChild != 0;
-  for (NodeIndex at = source.node(element).firstChild; at != 0; at = source.node(at).nextSibling) {
-    // What is no art stays.
-    holdsMore = holdsMore || (!isCopy && kindOf(source, at) == SvgElementKind::None);
-  }
-  return holdsMore ? Taken::Art : Taken::Nothing;
+  const bool isNamed = !art.name.empty() || (hasId && !isCopy) || !has(XmlNamespace::None, "data-name", "");
+  return isNamed ? Taken::NamedGroup : Taken::Art;
 }
 
 // To a reader the layer lies where the first of its content stands: in its place, or else beside what is.
@@ -114,13 +104,9 @@ NodeIndex SvgLayerForms::beginOfLoose() const {
   const ArtId root = writing_.document.layer(loose_)->root;
   const std::vector<ArtId> now = writing_.changes.children(root);
   const std::vector<bool> inPlace = entriesInPlace(now, writing_.changes.originalChildren(root));
-  NodeIndex begin = 0;
-  bool isFound = false;
-  for (std::size_t i = 0; i < now.size() && !(isFound && begin != 0); ++i) {
-    if (inPlace[i]) begin = writing_.changes.elementOf(now[i]);
-    isFound = isFound || takenFor(now[i]) != Taken::Nothing;
-  }
-  return begin;
+  const auto first = std::find(inPlace.begin(), inPlace.end(), true);
+  if (first == inPlace.end()) return 0;
+  return writing_.changes.elementOf(now[static_cast<std::size_t>(first - inPlace.begin())]);
 }
 
 NodeIndex SvgLayerForms::beginOf(LayerId id) const {

@@ -25,7 +25,7 @@ class SvgLayerForms {
 
  private:
   // What a reader takes a child of the root element for.
-  enum class Taken { Nothing, Art, NamedGroup, Layer };
+  enum class Taken { Art, NamedGroup, Layer };
 
   bool wasLoose(LayerId id) const;
   bool isOfTheFile(LayerId id) const;

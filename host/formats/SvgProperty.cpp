@@ -26,6 +26,7 @@ constexpr std::string_view kNames[kSvgPropertyCount] = {"baseline-shift",
                                                         "font-style",
                                                         "font-weight",
                                                         "height",
+                                                        "isolation",
                                                         "letter-spacing",
                                                         "marker",
                                                         "marker-end",
@@ -82,7 +83,8 @@ std::optional<SvgProperty> propertyNamedInAnyCase(std::string_view name) {
 
 bool isPresentationAttribute(SvgProperty property) {
   return property != SvgProperty::Font && property != SvgProperty::Marker &&
-         property != SvgProperty::MixBlendMode && property != SvgProperty::Transform;
+         property != SvgProperty::Isolation && property != SvgProperty::MixBlendMode &&
+         property != SvgProperty::Transform;
 }
 
 }  // namespace host

@@ -28,6 +28,7 @@ enum class SvgProperty : std::uint8_t {
   FontStyle,
   FontWeight,
   Height,
+  Isolation,
   LetterSpacing,
   Marker,
   MarkerEnd,

@@ -25,6 +25,7 @@ SvgStyle inheritedStyle(const SvgStyle& parent) {
   style.opacity = initial.opacity;
   style.masked = initial.masked;
   style.filtered = initial.filtered;
+  style.isolated = initial.isolated;
   style.blendMode = initial.blendMode;
   style.clipPath = initial.clipPath;
   return style;

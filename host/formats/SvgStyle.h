@@ -64,6 +64,7 @@ struct SvgStyle {
   double opacity = 1;  // of the element as a whole
   bool masked = false;
   bool filtered = false;
+  bool isolated = false;       // what lies in it is mixed with nothing but what else lies in it
   std::string_view blendMode;  // such as "multiply"; empty: normal
   std::string_view clipPath;   // empty: none
 };

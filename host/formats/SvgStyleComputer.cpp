@@ -29,6 +29,7 @@ bool choose(Value& target, const Keyword<Value> (&keywords)[Count], std::string_
   return true;
 }
 
+constexpr Keyword<bool> kIsolations[] = {{"auto", false}, {"isolate", true}};
 constexpr Keyword<bool> kFillRules[] = {{"nonzero", false}, {"evenodd", true}};
 constexpr Keyword<AILineCap> kCaps[] = {
     {"butt", kAIButtCap}, {"round", kAIRoundCap}, {"square", kAIProjectingCap}};
@@ -99,6 +100,7 @@ bool SvgStyleComputer::set(SvgProperty property, std::string_view value) {
     case SvgProperty::MarkerMid:
     case SvgProperty::MarkerEnd:
       return setReference(property, value);
+    case SvgProperty::Isolation:
     case SvgProperty::MixBlendMode:
     case SvgProperty::PaintOrder:
       return setPainting(property, value);
@@ -146,6 +148,7 @@ bool SvgStyleComputer::setReference(SvgProperty property, std::string_view value
 }
 
 bool SvgStyleComputer::setPainting(SvgProperty property, std::string_view value) {
+  if (property == SvgProperty::Isolation) return choose(style_.isolated, kIsolations, value);
   if (property == SvgProperty::MixBlendMode) return choose(style_.blendMode, kBlendModes, value);
   if (!choose(style_.reordered, kPaintOrders, value)) style_.reordered = true;
   return true;

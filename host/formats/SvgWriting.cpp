@@ -4,6 +4,7 @@
 
 #include "Geometry.h"
 #include "SvgContext.h"
+#include "SvgElements.h"
 
 namespace host {
 
@@ -54,6 +55,24 @@ bool losesSwitch(const SvgWriting& writing, ArtId group, NodeIndex element) {
   const SvgChanges& changes = writing.changes;
   return writing.source.is(element, "switch") &&
          (changes.elementOf(group) != element || changes.children(group) != changes.originalChildren(group));
+}
+
+bool isOverlooked(const SvgWriting& writing, ArtId group) {
+  const Art& art = *writing.document.art(group);
+  const bool isBare = art.type == kGroupArt && art.firstChild == 0 && art.name.empty();
+  if (!isBare || art.parent == 0) return false;
+  const SvgSource& source = writing.source;
+  const Layer* const layer = writing.changes.originalLayer(writing.document.art(art.parent)->rootOf);
+  if (layer == nullptr || layer->source != source.root()) return false;
+  const NodeIndex element = writing.changes.elementOf(group);
+  if (element == 0) return true;
+  if (!source.is(element, "g") && !losesSwitch(writing, group, element)) return false;
+  const SvgNode& node = source.node(element);
+  if (node.parent != source.root()) return true;
+  for (NodeIndex child = node.firstChild; child != 0; child = source.node(child).nextSibling) {
+    if (kindOf(source, child) == SvgElementKind::None) return false;  // it stays
+  }
+  return node.attributeCount == 0;
 }
 
 AIRealMatrix userFromDocument(const SvgWriting& writing, const AIRealMatrix& documentFromUser) {

@@ -57,6 +57,10 @@ SvgPlace placeAt(SvgWriting& writing, const SvgSpot& spot);
 // than a <switch> is not meant.
 bool losesSwitch(const SvgWriting& writing, ArtId group, NodeIndex element);
 
+// Would a reader overlook a group, which has to bear a mark then? One that is loose in the root element is
+// nothing to it without a name, attributes and content.
+bool isOverlooked(const SvgWriting& writing, ArtId group);
+
 // The inverse of a transform; where that flattens the plane nothing is ever seen, and the root's serves.
 AIRealMatrix userFromDocument(const SvgWriting& writing, const AIRealMatrix& documentFromUser);
 // By how much a transform scales strokes.

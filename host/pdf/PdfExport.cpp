@@ -50,7 +50,7 @@ class Export {
     std::vector<QPDFObjectHandle> forms;
     if (std::string reason = pictures_.drawInto(pdf_, options_.file, forms); !reason.empty()) return reason;
     const QPDFObjectHandle resources = pdf_.makeIndirectObject(resourcesWith(forms));
-    for (std::size_t i = 0; i < contents.size(); ++i) addPage(artboards[i], contents[i], resources);
+    for (std::size_t i = 0; i < contents.size(); ++i) addPage(i, contents[i], resources);
     nameIt();
     file.bytes = bytes();
     file.remarks = losses();
@@ -75,12 +75,10 @@ class Export {
     return resources;
   }
 
-  void addPage(const Artboard& artboard, const std::string& content, const QPDFObjectHandle& resources) {
-    const AIRealRect& rect = artboard.position;
-    const double unit = userUnitOf(*drawing_.document, artboard);
-    const double scale = drawing_.document->scale() / unit;
-    const QPDFObjectHandle::Rectangle box(0, 0, (rect.right - rect.left) * scale,
-                                          (rect.top - rect.bottom) * scale);
+  void addPage(std::size_t artboard, const std::string& content, const QPDFObjectHandle& resources) {
+    const double unit = userUnitOf(*drawing_.document, drawing_.document->state().artboards[artboard]);
+    const AIRealPoint size = pageSize(*drawing_.document, artboard, unit);
+    const QPDFObjectHandle::Rectangle box(0, 0, size.x, size.y);
     auto page = QPDFObjectHandle::newDictionary();
     page.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
     page.replaceKey("/MediaBox", QPDFObjectHandle::newFromRectangle(box));

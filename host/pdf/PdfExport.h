@@ -4,7 +4,8 @@
 // names, overprint is what the styles say and on for line types, strokes stay strokes, and a page is an
 // artboard at its true size. What a path with plain paints cannot express (gradients, text, images, masks,
 // filters, markers, opacity of groups) is drawn by librsvg, in RGB, in its place in the stack; where inks are
-// in it, they fade together in a transparency group of their own.
+// in it, they fade together in a transparency group of their own. What is mixed with bare paper is mixed with
+// white, as everywhere else in this host.
 #pragma once
 
 #include <filesystem>

@@ -21,7 +21,8 @@ struct PdfLine {
   double width = 0;  // points; 0 for a fill
   // Of its outline, without the width: points, y up, origin at the page's lower left corner.
   AIRealRect box{};
-  ArtId art = 0;  // whose line it is meant to be; 0 for one that was found
+  double slack = 0;  // of a box that is meant, for lines that stand for dots: units of the page
+  ArtId art = 0;     // whose line it is meant to be; 0 for one that was found
 };
 
 // As the document has them, on the page of an artboard, from the bottom up.

@@ -203,9 +203,9 @@ class FoundLines {
     if (isEmpty(box)) return;
     const std::string layer = layers_.empty() ? std::string() : layers_.back();
     const double width = state_.width * std::sqrt(std::abs(determinant(state_.matrix)));
-    if (isFill) lines_.push_back({layer, state_.fill.spot, true, state_.fill.overprints, 0, box, 0});
+    if (isFill) lines_.push_back({layer, state_.fill.spot, true, state_.fill.overprints, 0, box, 0, 0});
     if (isStroke)
-      lines_.push_back({layer, state_.stroke.spot, false, state_.stroke.overprints, width, box, 0});
+      lines_.push_back({layer, state_.stroke.spot, false, state_.stroke.overprints, width, box, 0, 0});
   }
 
   void paintObject() {

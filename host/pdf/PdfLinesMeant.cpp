@@ -4,10 +4,20 @@
 #include "PdfChoice.h"
 #include "PdfLines.h"
 #include "PdfSpotNames.h"
+#include "PdfStrokes.h"
 #include "SvgDrawing.h"
 
 namespace host {
 namespace {
+
+struct Outline {
+  void add(const PathGeometry& path) {
+    box = unite(box, pathBounds(path));
+    hasDot |= isDot(path);
+  }
+  AIRealRect box = kEmptyRect;
+  bool hasDot = false;
+};
 
 class MeantLines {
  public:
@@ -35,7 +45,7 @@ class MeantLines {
       if (art.hidden || art.guide) continue;
       if (art.style) add(id, *art.style);
       if (art.body) {
-        for (const Body::Part& part : art.body->parts) add(id, part.style, boundsOf(part.paths));
+        for (const Body::Part& part : art.body->parts) add(id, part.style, outlineOf(part.paths));
       }
       if (art.type != kGroupArt) continue;
       for (ArtId child = art.firstChild; child != 0; child = document_.art(child)->below)
@@ -43,20 +53,20 @@ class MeantLines {
     }
   }
 
-  static AIRealRect boundsOf(const std::vector<PathGeometry>& paths) {
-    AIRealRect box = kEmptyRect;
-    for (const PathGeometry& path : paths) box = unite(box, pathBounds(path));
-    return box;
+  static Outline outlineOf(const std::vector<PathGeometry>& paths) {
+    Outline outline;
+    for (const PathGeometry& path : paths) outline.add(path);
+    return outline;
   }
 
-  AIRealRect outlineOf(const Art& art) const {
-    if (art.path) return pathBounds(*art.path);
-    AIRealRect box = kEmptyRect;
+  Outline outlineOf(const Art& art) const {
+    Outline outline;
+    if (art.path) outline.add(*art.path);
     for (ArtId child = art.firstChild; child != 0; child = document_.art(child)->below) {
       const Art& part = *document_.art(child);
-      if (!part.hidden && !part.guide && part.path) box = unite(box, pathBounds(*part.path));
+      if (!part.hidden && !part.guide && part.path) outline.add(*part.path);
     }
-    return box;
+    return outline;
   }
 
   // Empty for one that has none.
@@ -72,19 +82,20 @@ class MeantLines {
     add(id, style, outlineOf(*document_.art(id)));
   }
 
-  void add(ArtId id, const AIPathStyle& whole, const AIRealRect& box) {
+  void add(ArtId id, const AIPathStyle& whole, const Outline& outline) {
     const AIPathStyle style = choice_.taken(whole, layer_);
     const std::string fill = paintsFill(style) ? plateOf(style.fill.color) : std::string();
     const std::string stroke = paintsStroke(style) ? plateOf(style.stroke.color) : std::string();
-    if ((fill.empty() && stroke.empty()) || isEmpty(box) || !isOnPage(id)) return;
-    if (!fill.empty()) lines_.push_back(line(id, box, fill, style.fill.overprint != 0));
+    if ((fill.empty() && stroke.empty()) || isEmpty(outline.box) || !isOnPage(id)) return;
+    if (!fill.empty()) lines_.push_back(line(id, outline, fill, style.fill.overprint != 0));
     if (stroke.empty()) return;
-    lines_.push_back(line(id, box, stroke, style.stroke.overprint != 0));
+    lines_.push_back(line(id, outline, stroke, style.stroke.overprint != 0));
     lines_.back().isFill = false;
     lines_.back().width = style.stroke.width * document_.scale();
   }
 
-  PdfLine line(ArtId id, const AIRealRect& box, const std::string& spot, bool overprints) const {
+  PdfLine line(ArtId id, const Outline& outline, const std::string& spot, bool overprints) const {
+    const AIRealRect& box = outline.box;
     const double scale = document_.scale();
     return {document_.layer(layer_)->title,
             spot,
@@ -93,6 +104,7 @@ class MeantLines {
             0,
             {(box.left - page_.left) * scale, (box.top - page_.bottom) * scale,
              (box.right - page_.left) * scale, (box.bottom - page_.bottom) * scale},
+            outline.hasDot ? kDotReach : 0,
             id};
   }
 

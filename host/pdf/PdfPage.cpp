@@ -1,18 +1,18 @@
 #include "PdfPage.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "Bounds.h"
 #include "Geometry.h"
 #include "Paint.h"
+#include "PdfStrokes.h"
 #include "PdfText.h"
 
 namespace host {
 namespace {
 
-// Of a dash pattern: a shorter one is a solid line to every printer.
-constexpr double kShortestPeriod = 0.01;  // units of the page
+// Does it make anything else of art on white than the art itself?
+bool showsOnPaper(std::string_view blendMode) {
+  return !blendMode.empty() && blendMode != "multiply" && blendMode != "darken";
+}
 
 const char* paintOperator(const AIPathStyle& style) {
   const bool fills = paintsFill(style), strokes = paintsStroke(style);
@@ -29,17 +29,30 @@ AIRealMatrix pageFromDocument(const Document& document, std::size_t artboard, do
   return {scale, 0, 0, scale, -page.left * scale, -page.bottom * scale};
 }
 
+AIRealPoint pageSize(const Document& document, std::size_t artboard, double userUnit) {
+  const AIRealRect& page = document.state().artboards[artboard].position;
+  return apply(pageFromDocument(document, artboard, userUnit), {page.right, page.top});
+}
+
 PdfPage::PdfPage(PdfParts& parts, std::size_t artboard, double userUnit)
     : parts_(parts),
       document_(*parts.drawing.document),
       artboard_(artboard),
       matrix_(pageFromDocument(document_, artboard, userUnit)),
-      scale_(matrix_.a) {}
+      scale_(matrix_.a),
+      size_(pageSize(document_, artboard, userUnit)) {}
 
 std::string PdfPage::content() {
   const auto& layers = parts_.choice.layers();
   for (auto id = layers.rbegin(); id != layers.rend(); ++id) addLayer(*id);
-  return std::move(out_.text);
+  return (mixesPaper_ && parts_.plan.showsPaper() ? paper() : std::string()) + out_.text;
+}
+
+// Readers mix what lies on bare paper with nothing.
+std::string PdfPage::paper() const {
+  std::string text = "q 1 g 0 0 ";
+  appendPdfPoint(text, size_);
+  return text + "re f Q\n";
 }
 
 // Each layer sets what it needs inside itself, so that it can be left out.
@@ -85,13 +98,13 @@ bool PdfPage::enter(ArtId id) {
     return true;
   }
   addLeaf(id);
-  if (parts_.plan.fadesAsOne(id)) endGroup(wholeState(id, parts_.plan.opacityOf(id)));
+  if (parts_.plan.fadesAsOne(id)) endGroup(id);
   pop(clips);
   return false;
 }
 
 void PdfPage::leave(ArtId id) {
-  if (parts_.plan.fadesAsOne(id)) endGroup(wholeState(id, parts_.plan.opacityOf(id)));
+  if (parts_.plan.fadesAsOne(id)) endGroup(id);
   std::size_t clips = 0;
   for (const Clip* at = document_.art(id)->clip.get(); at != nullptr; at = at->further.get()) ++clips;
   pop(clips);
@@ -155,9 +168,13 @@ void PdfPage::addInked(ArtId id, const std::vector<const PathGeometry*>& paths, 
   if (fills) out_.text += parts_.inks.choose(style.fill.color, false);
   if (strokes) {
     out_.text += parts_.inks.choose(style.stroke.color, true);
-    setStroke(style.stroke);
+    appendPdfStroke(out_.text, style.stroke, scale_);
   }
-  for (const PathGeometry* path : paths) appendPdfPath(out_.text, *path, matrix_);
+  const bool makesSquares = strokes && style.stroke.cap == kAIProjectingCap;
+  const AIRealPoint along = parts_.plan.axisOf(id);
+  const AIRealPoint dotStep =
+      makesSquares ? AIRealPoint{along.x * kDotReach, along.y * kDotReach} : AIRealPoint{0, 0};
+  for (const PathGeometry* path : paths) appendPdfPath(out_.text, *path, matrix_, dotStep);
   out_.text += paintOperator(style);
 }
 
@@ -202,48 +219,22 @@ PdfState PdfPage::wholeState(ArtId id, double opacity) const {
   return {false, false, opacity, opacity, parts_.plan.blendModeOf(id)};
 }
 
-void PdfPage::endGroup(const PdfState& state) {
+void PdfPage::endGroup(ArtId id) {
   Stream group = std::move(out_);
   out_ = std::move(round_.back());
   round_.pop_back();
   if (group.text.empty()) return;
-  const AIRealRect& page = document_.state().artboards[artboard_].position;
   const std::string name =
-      parts_.groups.add(std::move(group.text), std::move(group.objects), (page.right - page.left) * scale_,
-                        (page.top - page.bottom) * scale_);
+      parts_.groups.add({std::move(group.text), std::move(group.objects), parts_.plan.isolates(id)}, size_);
   out_.objects.insert(name);
   out_.lastPicture = kNone;
-  choose(state);
+  choose(wholeState(id, parts_.plan.opacityOf(id)));
   out_.text += name + " Do\n";
-}
-
-void PdfPage::setStroke(const AIStrokeStyle& stroke) {
-  appendPdfNumber(out_.text, stroke.width * scale_);
-  out_.text += "w " + std::to_string(stroke.cap) + " J " + std::to_string(stroke.join) + " j ";
-  appendPdfNumber(out_.text, std::max(stroke.miterLimit, 1.0));
-  out_.text += "M ";
-  setDash(stroke.dash);
-}
-
-// Readers stumble over a pattern whose numbers are all 0, and over one that begins before the line does.
-void PdfPage::setDash(const AIDashStyle& dash) {
-  double period = 0;
-  for (int i = 0; i < dash.length; ++i) period += dash.array[i] * scale_;
-  if (period < kShortestPeriod) {
-    out_.text += "[ ] 0 d\n";
-    return;
-  }
-  out_.text += "[ ";
-  for (int i = 0; i < dash.length; ++i) appendPdfNumber(out_.text, dash.array[i] * scale_);
-  out_.text += "] ";
-  if (dash.length % 2 != 0) period *= 2;
-  const double offset = std::fmod(dash.offset * scale_, period);
-  appendPdfNumber(out_.text, offset < 0 ? offset + period : offset);
-  out_.text += "d\n";
 }
 
 void PdfPage::choose(const PdfState& state) {
   if (out_.hasState && state == out_.state) return;
+  mixesPaper_ |= showsOnPaper(state.blendMode);
   out_.state = state;
   out_.hasState = true;
   out_.text += parts_.states.choose(state);

@@ -31,6 +31,9 @@ struct PdfParts {
 // points.
 AIRealMatrix pageFromDocument(const Document& document, std::size_t artboard, double userUnit);
 
+// Its upper right corner, in units of the page; the lower left one is the origin.
+AIRealPoint pageSize(const Document& document, std::size_t artboard, double userUnit);
+
 class PdfPage {
  public:
   PdfPage(PdfParts& parts, std::size_t artboard, double userUnit);
@@ -51,6 +54,7 @@ class PdfPage {
     PdfState lastState;               // of that picture
   };
 
+  std::string paper() const;
   void addLayer(LayerId id);
   void addTree(ArtId root);
   bool enter(ArtId id);  // true if its children are to be gone through; then leave() follows
@@ -64,11 +68,9 @@ class PdfPage {
   std::size_t clip(const Clip* clip);  // how many states were pushed
   void pop(std::size_t states);
   void beginGroup();
-  void endGroup(const PdfState& state);
+  void endGroup(ArtId id);
   // For what is drawn as a whole.
   PdfState wholeState(ArtId id, double opacity) const;
-  void setDash(const AIDashStyle& dash);
-  void setStroke(const AIStrokeStyle& stroke);
   void choose(const PdfState& state);
   bool isOnPage(ArtId id) const;
 
@@ -77,7 +79,9 @@ class PdfPage {
   const std::size_t artboard_;
   const AIRealMatrix matrix_;
   const double scale_;  // page units in a document unit
+  const AIRealPoint size_;
   LayerId layer_ = 0;
+  bool mixesPaper_ = false;  // with what lies on it
   Stream out_;
   std::vector<Stream> round_;  // what the group being written lies in
 };

@@ -4,6 +4,7 @@
 
 #include "Paint.h"
 #include "PdfChoice.h"
+#include "PdfStrokes.h"
 
 namespace host {
 namespace {
@@ -23,6 +24,11 @@ bool hasInk(const AIPathStyle& style) {
 bool hasServer(const AIPathStyle& style) {
   return (paintsFill(style) && isServer(style.fill.color)) ||
          (paintsStroke(style) && isServer(style.stroke.color));
+}
+
+// Is what it holds mixed with nothing but what else it holds?
+bool closes(const SvgEffect& effect) {
+  return effect.isolated || effect.actsOnWhole() || !effect.blendMode.empty();
 }
 
 PdfRest restBesideInks(const AIPathStyle& style, bool marked) {
@@ -67,8 +73,8 @@ void PdfPlan::surveyArt(ArtId id, bool isOfMarks) {
   record.element = elementOf(art);
   const SvgEffect& effect = effectOf(id);
   record.isRead |= isOfMarks;
-  // librsvg would mix what it holds with nothing but what else it holds.
-  const bool isOpen = record.holdsBlend && !effect.actsOnWhole();
+  // librsvg would mix what it holds with nothing but what else it holds, and cairo rounds dots away.
+  const bool isOpen = (record.holdsBlend || record.holdsDots) && !effect.actsOnWhole();
   if (art.type == kGroupArt) record.wantsPicture = !isOpen && (record.wantsPicture || effect.actsOnWhole());
   if (art.style) surveyPath(art, effect, record);
   if (art.body) surveyBody(*art.body, record);
@@ -82,15 +88,19 @@ void PdfPlan::surveyArt(ArtId id, bool isOfMarks) {
   round.isRead |= record.isRead;
   round.wantsPicture |= record.wantsPicture;
   round.overlaps |= record.overlaps;
-  round.holdsBlend |= isOpen || !effect.blendMode.empty();
+  round.holdsDots |= record.holdsDots;
+  round.holdsBlend |= (record.holdsBlend && !closes(effect)) || !effect.blendMode.empty();
 }
 
 void PdfPlan::decideFading(const SvgEffect& effect, Record& record) {
   const bool fades = effect.opacity < 1 && record.hasInk && record.overlaps;
   const bool blends = !effect.blendMode.empty();
-  record.fadesAsOne = !record.isRead && (fades || (blends && record.overlaps));
+  const bool isolates = record.holdsBlend && closes(effect);
+  record.fadesAsOne = !record.isRead && (fades || isolates || (blends && record.overlaps));
+  record.isolates = record.fadesAsOne && isolates;
   if (!record.isRead || record.loss != nullptr) return;
   if (fades) record.loss = "that it fades as one: its parts fade each";
+  if (isolates) record.loss = "its isolation: what it holds is mixed with what lies below it";
   if (blends) record.loss = "its blend mode";
 }
 
@@ -110,9 +120,20 @@ void PdfPlan::surveyPath(const Art& art, const SvgEffect& effect, Record& record
   const bool strokedOddly = paintsStroke(style) && (effect.stretched || effect.dashesCut);
   record.wantsPicture = effect.masked || effect.filtered || effect.marked || hasServer(style) || reordered ||
                         strokedOddly || (effect.opacity < 1 && hasBoth);
+  record.holdsDots = !record.wantsPicture && paintsStroke(style) && isDotted(art);
   if (record.hasInk && record.element != 0) record.rest = restBesideInks(style, effect.marked);
   record.overlaps = hasBoth || record.rest != PdfRest::None;
   if (record.hasInk) record.loss = lossOf(style, effect, record.rest);
+}
+
+bool PdfPlan::isDotted(const Art& art) const {
+  if (art.style->stroke.cap != kAIProjectingCap) return false;
+  if (art.path) return isDot(*art.path);
+  for (ArtId child = art.firstChild; child != 0; child = drawing_.document->art(child)->below) {
+    const Art& part = *drawing_.document->art(child);
+    if (part.path && isDot(*part.path)) return true;
+  }
+  return false;
 }
 
 // The width of a line type means nothing to a table.
@@ -137,6 +158,10 @@ void PdfPlan::surveyBody(const Body& body, Record& record) const {
   record.wantsPicture = true;
   record.overlaps = true;
   if (record.hasInk) record.loss = "that it was text or an instance: it is outlines now";
+}
+
+bool PdfPlan::showsPaper() const {
+  return !closes(effects_.of(drawing_.source->root()));
 }
 
 bool PdfPlan::isFaded(ArtId art) const {

@@ -48,10 +48,15 @@ class PdfPlan {
   // Is native art drawn as a whole and then faded, so that what overlaps in it does not show through? Never
   // what a table reads: lines and marks stay on the page itself.
   bool fadesAsOne(ArtId art) const { return records_[art].fadesAsOne; }
+  // And is what lies in it mixed with nothing else?
+  bool isolates(ArtId art) const { return records_[art].isolates; }
+  bool showsPaper() const;  // may art be mixed with the white of the page?
   // How it is mixed with what lies below, such as "multiply"; empty: normally. What a table reads covers.
   std::string_view blendModeOf(ArtId art) const {
     return records_[art].isRead ? std::string_view() : effectOf(art).blendMode;
   }
+  // Where the x axis of its element points in the document; of length 1.
+  AIRealPoint axisOf(ArtId art) const { return effectOf(art).axis; }
   // That of the art and of the groups round it, as far as they do not fade as one.
   double opacityOf(ArtId art) const { return records_[art].opacity; }
   double opacityRound(ArtId art) const;  // of the groups alone
@@ -64,7 +69,9 @@ class PdfPlan {
     bool isRead = false;        // a line type or a mark, in it or below
     bool wantsPicture = false;  // in it or below
     bool overlaps = false;      // painted in more than one step
-    bool holdsBlend = false;    // something below is mixed with what lies below this, too
+    bool holdsDots = false;     // with square caps
+    bool holdsBlend = false;    // something in it is mixed with what lies below this, too
+    bool isolates = false;
     bool fadesAsOne = false;
     PdfRest rest = PdfRest::None;
     NodeIndex element = 0;
@@ -75,6 +82,7 @@ class PdfPlan {
   void surveyArt(ArtId id, bool isOfMarks);
   void surveyPath(const Art& art, const SvgEffect& effect, Record& record) const;
   const char* lossOf(const AIPathStyle& style, const SvgEffect& effect, PdfRest rest) const;
+  bool isDotted(const Art& art) const;
   void surveyBody(const Body& body, Record& record) const;
   static void decideFading(const SvgEffect& effect, Record& record);
   NodeIndex elementOf(const Art& art) const;

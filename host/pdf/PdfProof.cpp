@@ -75,22 +75,23 @@ std::vector<std::string> layersFound(QPDF& pdf) {
   return layers;
 }
 
-std::string differenceOf(const PdfLine& meant, const PdfLine& found, double tolerance) {
+std::string differenceOf(const PdfLine& meant, const PdfLine& found, double unit) {
   if (meant.layer != found.layer)
     return "lies on layer \"" + found.layer + "\", not on \"" + meant.layer + "\"";
   if (meant.isFill != found.isFill) return meant.isFill ? "is not filled" : "has no stroke";
   if (meant.spot != found.spot) return "has the colour \"" + found.spot + "\", not \"" + meant.spot + "\"";
   if (meant.overprints != found.overprints) return meant.overprints ? "does not overprint" : "overprints";
-  if (!isNear(meant.width, found.width, tolerance)) return "has another width";
-  if (!isNear(meant.box, found.box, tolerance)) return "lies elsewhere or has another size";
+  if (!isNear(meant.width, found.width, kTolerance * unit)) return "has another width";
+  if (!isNear(meant.box, found.box, (kTolerance + meant.slack) * unit))
+    return "lies elsewhere or has another size";
   return {};
 }
 
 std::string differenceOf(const SvgDrawing& drawing, const std::vector<PdfLine>& meant,
-                         const std::vector<PdfLine>& found, double tolerance) {
+                         const std::vector<PdfLine>& found, double unit) {
   for (std::size_t i = 0; i < meant.size(); ++i) {
     if (i >= found.size()) return nameOfObject(drawing, meant[i].art) + " is missing";
-    const std::string difference = differenceOf(meant[i], found[i], tolerance);
+    const std::string difference = differenceOf(meant[i], found[i], unit);
     if (!difference.empty()) return nameOfObject(drawing, meant[i].art) + " " + difference;
   }
   if (found.size() > meant.size()) {
@@ -138,8 +139,8 @@ std::string proofOf(const std::string& bytes, const SvgDrawing& drawing, const P
   for (std::size_t i = 0; i < pages.size(); ++i) {
     std::string difference = differenceOfSize(pages[i], document, artboards[i]);
     if (difference.empty())
-      difference = differenceOf(drawing, linesMeant(drawing, choice, i), linesFound(pages[i]),
-                                kTolerance * unitOf(pages[i]));
+      difference =
+          differenceOf(drawing, linesMeant(drawing, choice, i), linesFound(pages[i]), unitOf(pages[i]));
     if (!difference.empty()) return difference;
   }
   return {};

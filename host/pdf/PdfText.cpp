@@ -1,10 +1,10 @@
 #include "PdfText.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 
 #include "Geometry.h"
+#include "PdfStrokes.h"
 
 namespace host {
 namespace {
@@ -26,21 +26,12 @@ void appendSegment(std::string& text, const AIPathSegment& from, const AIPathSeg
   text += "c\n";
 }
 
-bool isDot(const PathGeometry& path) {
-  const auto& segments = path.segments;
-  const AIRealPoint at = segments.front().p;
-  return (path.closed || segments.size() > 1) &&
-         std::all_of(segments.begin(), segments.end(), [at](const AIPathSegment& segment) {
-           return isSame(segment.p, at) && isSame(segment.in, at) && isSame(segment.out, at);
-         });
-}
-
 // Not all readers draw one that is closed.
-void appendDot(std::string& text, AIRealPoint at) {
-  for (const char* const step : {"m\n", "l\n"}) {
-    appendPdfPoint(text, at);
-    text += step;
-  }
+void appendDot(std::string& text, AIRealPoint at, AIRealPoint step) {
+  appendPdfPoint(text, {at.x - step.x, at.y - step.y});
+  text += "m\n";
+  appendPdfPoint(text, {at.x + step.x, at.y + step.y});
+  text += "l\n";
 }
 
 }  // namespace
@@ -61,10 +52,11 @@ void appendPdfPoint(std::string& text, AIRealPoint point) {
   appendPdfNumber(text, point.y);
 }
 
-void appendPdfPath(std::string& text, const PathGeometry& path, const AIRealMatrix& pageFromDocument) {
+void appendPdfPath(std::string& text, const PathGeometry& path, const AIRealMatrix& pageFromDocument,
+                   AIRealPoint dotStep) {
   const auto& segments = path.segments;
   if (segments.empty()) return;
-  if (isDot(path)) return appendDot(text, apply(pageFromDocument, segments.front().p));
+  if (isDot(path)) return appendDot(text, apply(pageFromDocument, segments.front().p), dotStep);
   appendPdfPoint(text, apply(pageFromDocument, segments.front().p));
   text += "m\n";
   for (std::size_t i = 1; i < segments.size(); ++i) {

@@ -14,7 +14,9 @@ void appendPdfNumber(std::string& text, double value);
 void appendPdfPoint(std::string& text, AIRealPoint point);
 
 // The path's curves, to be painted or to clip; `pageFromDocument` gives the coordinates. A segment whose
-// handles lie on its anchors is a line, and an outline without any length a dot, which shows with round caps.
-void appendPdfPath(std::string& text, const PathGeometry& path, const AIRealMatrix& pageFromDocument);
+// handles lie on its anchors is a line, and an outline without any length a line from `dotStep` before its
+// place to as far behind it, in units of the page.
+void appendPdfPath(std::string& text, const PathGeometry& path, const AIRealMatrix& pageFromDocument,
+                   AIRealPoint dotStep = {0, 0});
 
 }  // namespace host

@@ -215,10 +215,8 @@ class Content {
                      (document_.art(layer.root)->clip ? " clipped" : ""));
     addArt(layer.root, " ");
   }
-  // A file has no words for groups without content.
-  bool addArt(ArtId id, const std::string& indent) {
+  void addArt(ArtId id, const std::string& indent) {
     const Art& art = *document_.art(id);
-    const std::size_t place = lines_.size();
     const bool isPart = art.type == kPathArt && !art.style;
     if (art.parent != 0) {
       lines_.push_back(indent + std::to_string(art.type) + " " + (isPart ? "" : art.name) +
@@ -226,13 +224,9 @@ class Content {
                        (art.clip ? " clipped" : "") + (art.style ? textOf(*art.style) : "") +
                        (art.path ? textOf(*art.path) : ""));
     }
-    bool isEmpty = true;
     for (ArtId child = art.firstChild; child != 0; child = document_.art(child)->below) {
-      isEmpty = !addArt(child, indent + " ") && isEmpty;
+      addArt(child, indent + " ");
     }
-    const bool isThere = art.type != kGroupArt || !isEmpty;
-    if (!isThere) lines_.resize(place);
-    return isThere;
   }
   std::string textOf(const AIColor& color) const {
     std::string line = " colour " + std::to_string(color.kind);

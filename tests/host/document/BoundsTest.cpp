@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <random>
+#include <tuple>
 
 #include "Cubic.h"
 #include "DrawingMaker.h"
@@ -13,7 +14,7 @@
 namespace host {
 namespace {
 
-using namespace testing;  // NOLINT: the makers of this folder
+using namespace testing;  // NOLINT: makers of drawings
 
 const double kRoot2 = std::sqrt(2.0);
 
@@ -36,12 +37,6 @@ AIRealRect boundsOf(const PathGeometry& path, const AIPathStyle& style,
 }
 
 TEST(StrokeBounds, HoldJoinsMitersAndCaps) {
-  struct Case {
-    const char* what;
-    PathGeometry path;
-    AIPathStyle style;
-    AIRealRect bounds;
-  };
   const PathGeometry slope = straight({{0, 0}, {10, 10}}, false);
   const PathGeometry wedge = straight({{-10, 10}, {0, 0}, {10, 10}}, false);  // 90 degrees, pointing down
   const PathGeometry back = straight({{0, 0}, {10, 0}, {0, 0}}, false);
@@ -49,7 +44,7 @@ TEST(StrokeBounds, HoldJoinsMitersAndCaps) {
   const PathGeometry diamond = straight({{0, 0}, {10, 10}, {0, 20}, {-10, 10}}, true);
 
   const double h = 1 / kRoot2;
-  const std::vector<Case> cases = {
+  const std::tuple<const char*, PathGeometry, AIPathStyle, AIRealRect> cases[] = {
       {"butt aslant", slope, stroked(2), rect(-h, -h, 10 + h, 10 + h)},
       {"projecting aslant", slope, stroked(2, kAIProjectingCap),
        rect(-2 * h, -2 * h, 10 + 2 * h, 10 + 2 * h)},
@@ -73,9 +68,9 @@ TEST(StrokeBounds, HoldJoinsMitersAndCaps) {
       {"inner side of a bend by a short tail", straight({{0, 0}, {10, 0}, {10, 0.5}}, false), stroked(6),
        rect(0, -3, 13, 3)},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
-    expectBounds(boundsOf(c.path, c.style), c.bounds);
+  for (const auto& [what, path, style, bounds] : cases) {
+    SCOPED_TRACE(what);
+    expectBounds(boundsOf(path, style), bounds);
   }
 }
 
@@ -124,13 +119,6 @@ TEST(StrokeBounds, HoldCurvesOfAllKindsUnderAllMatrices) {
 }
 
 TEST(ArtBounds, CountWhatTheFlagsSay) {
-  struct Case {
-    const char* what;
-    AIPathStyle style;
-    bool guide;
-    std::int32_t flags;
-    AIRealRect bounds;
-  };
   const PathGeometry square = box(0, 0, 10, 10);
   AIPathStyle noWidth = stroked(0);
   AIPathStyle noColour = stroked(2);
@@ -138,7 +126,8 @@ TEST(ArtBounds, CountWhatTheFlagsSay) {
   noColour.stroke.color.kind = kNoneColor;
   const std::int32_t painted = kExcludeUnpaintedObjectBounds;
   const AIRealRect bare = rect(0, 0, 10, 10);
-  const std::vector<Case> cases = {
+  // Is it a guide, and what is asked for?
+  const std::tuple<const char*, AIPathStyle, bool, std::int32_t, AIRealRect> cases[] = {
       {"stroke", stroked(2), false, 0, rect(-1, -1, 11, 11)},
       {"stroke not asked for", stroked(2), false, kNoStrokeBounds, bare},
       {"unpainted, excluded", unpainted(), false, painted, kEmptyRect},
@@ -149,11 +138,11 @@ TEST(ArtBounds, CountWhatTheFlagsSay) {
       {"guide, excluded", filled(), true, kExcludeGuideBounds, kEmptyRect},
       {"no guide", filled(), false, painted | kExcludeGuideBounds, bare},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
+  for (const auto& [what, style, guide, flags, bounds] : cases) {
+    SCOPED_TRACE(what);
     Sheet sheet;
-    sheet.change(sheet.path(square, c.style), [&](Art& art) { art.guide = c.guide; });
-    expectBounds(artBounds(sheet.document, sheet.root(), nullptr, c.flags), c.bounds);
+    sheet.change(sheet.path(square, style), [isGuide = guide](Art& art) { art.guide = isGuide; });
+    expectBounds(artBounds(sheet.document, sheet.root(), nullptr, flags), bounds);
   }
 }
 

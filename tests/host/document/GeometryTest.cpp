@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 #include "Cubic.h"
 #include "DrawingMaker.h"
@@ -27,12 +28,7 @@ double distanceToPolyline(AIRealPoint p, const std::vector<AIRealPoint>& line) {
 }
 
 TEST(Flatten, KeepsToTheToleranceWithFewPoints) {
-  struct Case {
-    Points points;
-    double tolerance;
-    std::size_t mostPoints;
-  };
-  const std::vector<Case> cases = {
+  const std::tuple<Points, double, std::size_t> cases[] = {
       {{{0, 0}, {0, 55.2}, {44.8, 100}, {100, 100}}, 0.01, 70},  // a quarter of a circle
       {{{0, 0}, {0, 55.2}, {44.8, 100}, {100, 100}}, 1, 8},
       {{{0, 0}, {100, 0}, {-50, 0}, {50, 0}}, 0.01, 150},       // turns back on a line
@@ -42,13 +38,13 @@ TEST(Flatten, KeepsToTheToleranceWithFewPoints) {
       {{{5, 5}, {25, 5}, {5, 25}, {5, 5}}, 0.01, 60},  // a loop
       {{{5, 5}, {5, 5}, {5, 5}, {5, 5}}, 0.01, 1},
   };
-  for (const Case& c : cases) {
-    const std::vector<AIRealPoint> line = flatten(curved(c.points, false), c.tolerance, false);
-    EXPECT_LE(line.size(), c.mostPoints);
-    EXPECT_TRUE(line.front() == c.points.front() && line.back() == c.points.back());
-    const Cubic curve{c.points[0], c.points[1], c.points[2], c.points[3]};
+  for (const auto& [points, tolerance, most] : cases) {
+    const std::vector<AIRealPoint> line = flatten(curved(points, false), tolerance, false);
+    EXPECT_LE(line.size(), most);
+    EXPECT_TRUE(line.front() == points.front() && line.back() == points.back());
+    const Cubic curve{points[0], points[1], points[2], points[3]};
     for (int i = 0; i <= 1000 && line.size() > 1; ++i) {
-      ASSERT_LE(distanceToPolyline(pointAt(curve, i / 1000.0), line), c.tolerance * 1.0001) << i;
+      ASSERT_LE(distanceToPolyline(pointAt(curve, i / 1000.0), line), tolerance * 1.0001) << i;
     }
   }
 }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <tuple>
 
 #include "AIHitTest.h"
 #include "DrawingMaker.h"
@@ -12,7 +13,7 @@
 namespace host {
 namespace {
 
-using namespace testing;  // NOLINT: the makers of this folder
+using namespace testing;  // NOLINT: makers of drawings
 
 AIPathStyle both(const AIPathStyle& stroke, bool evenOdd = false) {
   AIPathStyle style = stroke;
@@ -23,13 +24,6 @@ AIPathStyle both(const AIPathStyle& stroke, bool evenOdd = false) {
 }
 
 TEST(HitIndex, OnePath) {
-  struct Case {
-    const char* what;
-    PathGeometry path;
-    AIPathStyle style;
-    AIRealPoint point;
-    std::int32_t found;  // by which requests
-  };
   const PathGeometry square = box(0, 0, 10, 10);
   const PathGeometry open = straight({{0, 0}, {10, 0}, {10, 10}}, false);
   const PathGeometry spike = straight({{0, 0}, {10, 1}, {0, 2}}, false);
@@ -41,7 +35,10 @@ TEST(HitIndex, OnePath) {
       straight({{0, 60}, {0, 2e-4}, {0, 1e-4}, {0, 0}, {1e-5, 0}, {1e-4, 0}, {60, 0}}, false);
   const PathGeometry speck = straight({{0, 0}, {1e-40, 0}, {1e-40, 1e-40}}, false);
   const AIPathStyle wide = stroked(4);
-  const std::vector<Case> cases = {
+  AIPathStyle dashed = wide;
+  dashed.stroke.dash = {2, 0, {1, 9}};
+  // Found by which requests.
+  const std::tuple<const char*, PathGeometry, AIPathStyle, AIRealPoint, std::int32_t> cases[] = {
       {"inside", square, filled(), {5, 5}, kFillHitRequest},
       {"unpainted", square, unpainted(), {5, 5}, 0},
       {"open, filled as if closed", open, filled(), {9, 1}, kFillHitRequest},
@@ -59,11 +56,7 @@ TEST(HitIndex, OnePath) {
       {"long miter cut", spike, stroked(1, kAIButtCap, kAIMiterJoin, 9), {11, 1}, 0},
       {"square to the curve at its end", bend, stroked(16), {17.9, 0.03}, kStrokeHitRequest},
       {"and not beyond", bend, stroked(16), {17.9, -0.03}, 0},
-      {"round corner of many tiny steps",
-       steps,
-       stroked(8, kAIButtCap, kAIRoundJoin),
-       {-2.8, -2.8},
-       kStrokeHitRequest},
+      {"corner of tiny steps", steps, stroked(8, kAIButtCap, kAIRoundJoin), {-2.8, -2.8}, kStrokeHitRequest},
       {"beyond that corner", steps, stroked(8, kAIButtCap, kAIRoundJoin), {-2.9, -2.9}, 0},
       {"all steps too small to tell apart", speck, stroked(8, kAIRoundCap), {2.8, 2.8}, kStrokeHitRequest},
       {"beyond those", speck, stroked(8, kAIRoundCap), {2.9, 2.9}, 0},
@@ -74,28 +67,20 @@ TEST(HitIndex, OnePath) {
       {"butt dot", dot, wide, {5, 5}, 0},
       {"lone anchor", straight({{5, 5}}, false), stroked(4, kAIRoundCap), {5, 5}, 0},
       {"line without area", straight({{0, 0}, {10, 0}}, true), filled(), {5, 0}, 0},
-      {"dashes count as solid",
-       square,
-       [&] {
-         AIPathStyle dashed = wide;
-         dashed.stroke.dash = {2, 0, {1, 9}};
-         return dashed;
-       }(),
-       {0, 5},
-       kStrokeHitRequest},
+      {"dashes count as solid", square, dashed, {0, 5}, kStrokeHitRequest},
   };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
+  for (const auto& [what, outline, style, point, found] : cases) {
+    SCOPED_TRACE(what);
     Sheet sheet;
-    const ArtId path = sheet.path(c.path, c.style);
+    const ArtId path = sheet.path(outline, style);
     const HitIndex index(sheet.document);
     for (const std::int32_t request : {kFillHitRequest, kStrokeHitRequest, kBodyHitRequest, kAllHitRequest}) {
-      const bool hit = (c.found & request) != 0;
-      EXPECT_EQ(index.any(c.point, request), hit) << request;
-      EXPECT_EQ(index.topmost(c.point, request), hit ? path : 0) << request;
-      EXPECT_EQ(index.hits(sheet.root(), c.point, request), hit) << request;
+      const bool hit = (found & request) != 0;
+      EXPECT_EQ(index.any(point, request), hit) << request;
+      EXPECT_EQ(index.topmost(point, request), hit ? path : 0) << request;
+      EXPECT_EQ(index.hits(sheet.root(), point, request), hit) << request;
     }
-    EXPECT_FALSE(index.any(c.point, 0));
+    EXPECT_FALSE(index.any(point, 0));
   }
 }
 

@@ -21,24 +21,10 @@ class SelectionTest : public ::testing::Test {
  protected:
   SelectionTest() { document.startRecording(); }
 
-  AIColor spot(const char* name, double tint) {
-    AIColor color{};
-    color.kind = kCustomColor;
-    color.c.c = {makeHandle<AICustomColorHandle>(HandleKind::CustomColor, document.serial(),
-                                                 document.addCustomColor(name, {})),
-                 tint};
-    return color;
-  }
   ArtId lineOf(const AIColor& color, double width = 1) {
     AIPathStyle style = stroked(width);
     style.stroke.color = color;
     return sheet.path(box(0, 0, 1, 1), style);
-  }
-  template <typename Change>
-  void step(Change change) {
-    document.beginStep("step");
-    change();
-    document.endStep();
   }
 
   Sheet sheet;
@@ -80,7 +66,8 @@ TEST_F(SelectionTest, HoldsOnlyWhatIsAWholeOfItsOwn) {
 }
 
 TEST_F(SelectionTest, ChangesOutsideAnyStepKeepWhatWasSelectedBefore) {
-  step([] {});
+  document.beginStep("step");
+  document.endStep();
   document.setSelected(path, true);
   document.deleteArt(path);
   document.setSelected(compound, true);
@@ -122,7 +109,8 @@ TEST_F(SelectionTest, EmptiedGroupsAreDeletedToo) {
 }
 
 TEST_F(SelectionTest, TheSameStrokeHasColourSwatchAndTint) {
-  const AIColor red = spot("Red", 0), blue = spot("Blue", 0);
+  const AIColor red = testing::customPaint(document, document.addCustomColor("Red", {}));
+  const AIColor blue = testing::customPaint(document, document.addCustomColor("Blue", {}));
   AIColor pale = red, gray{};
   pale.c.c.tint = 0.5;
   const ArtId thin = lineOf(red), thick = lineOf(red, 3), other = lineOf(blue), tinted = lineOf(pale),

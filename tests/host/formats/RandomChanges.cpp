@@ -3,6 +3,7 @@
 #include <iterator>
 #include <utility>
 
+#include "DrawingMaker.h"
 #include "Duplicate.h"
 #include "TestDrawing.h"
 
@@ -85,9 +86,9 @@ class RandomEditor {
       definition.c.lab = {50, -20, 60};
       definition.flag = kCustomSpotColor;
       id = document_.addCustomColor("Spot", definition);
-      document_.addSwatch(0, spot(document_, id, 0), "Spot");
+      document_.addSwatch(0, testing::customPaint(document_, id, 0), "Spot");
     }
-    return spot(document_, id, part);
+    return testing::customPaint(document_, id, part);
   }
 
   std::shared_ptr<const AIPathStyle> anyStyle() {

@@ -39,13 +39,13 @@ TEST(SvgHostText, RefusesWhatItDoesNotMean) {
 TEST(SvgHostText, ReportsWhatDoesNotCount) {
   const SvgDrawing drawing = readDrawing(
       "<svg xmlns='http://www.w3.org/2000/svg' xmlns:h='urn:x-corvane-host:drawing:1' width='9pt' "
-      "height='9pt'>"
+      "height='9pt' h:stroke='gray(1)'>"
       "<metadata><h:swatches><h:color name='a' definition='lab(50 -100 100)' registration='true'/>"
       "<h:color name='a' definition='rgb(0 0 0)'/><h:swatch name='s' paint=\"custom('a' 0.5)\" group='3'/>"
       "<h:swatch name='t' paint='red'/><other/></h:swatches></metadata><g h:fill='gray(1)'/></svg>");
-  ASSERT_EQ(drawing.remarks.size(), 4U);
+  ASSERT_EQ(drawing.remarks.size(), 5U);
   EXPECT_EQ(drawing.remarks[0].element, "color");
-  EXPECT_EQ(drawing.remarks[3].element, "g");
+  EXPECT_EQ(drawing.remarks[3].element, "svg");
   const Document& document = *drawing.document;
   ASSERT_EQ(document.state().swatches.size(), 1U);
   const Swatch& swatch = *document.swatch(document.state().swatches[0]);

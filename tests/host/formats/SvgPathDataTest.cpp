@@ -1,7 +1,9 @@
 // Path data and points.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <tuple>
 
 #include "Bounds.h"
 #include "Geometry.h"
@@ -70,55 +72,47 @@ TEST(SvgPathData, DrawsEveryCommand) {
 }
 
 TEST(SvgPathData, DrawsUpToTheFaultAndSaysWhere) {
-  struct Case {
-    const char* data;
-    const char* drawn;
-    const char* fault;
-  };
-  const Case cases[] = {{"M0 0L5 5L6", "M 0 0 L 5 5", "a number is missing @10"},
-                        {"M0 0L5 5 x 1", "M 0 0 L 5 5", "a path command is missing @9"},
-                        {"L5 5M0 0", "", "path data begin with a move @0"},
-                        {"M,0 0L1 1", "", "a number is missing @1"},
-                        {"M0 0L1 1,", "M 0 0 L 1 1", "a path command is missing @8"},
-                        {"M0 0A5 5 0 2 0 9 9", "", "an arc flag is 0 or 1 @11"},
-                        {"M0 0L1 1Z 5 5", "M 0 0 L 1 1 Z", "a path command is missing @10"},
-                        {"M0 0L1 1Lnan 5", "M 0 0 L 1 1", "a number is missing @9"}};
-  for (const Case& example : cases) {
+  const std::array<const char*, 3> cases[] = {
+      {"M0 0L5 5L6", "M 0 0 L 5 5", "a number is missing @10"},
+      {"M0 0L5 5 x 1", "M 0 0 L 5 5", "a path command is missing @9"},
+      {"L5 5M0 0", "", "path data begin with a move @0"},
+      {"M,0 0L1 1", "", "a number is missing @1"},
+      {"M0 0L1 1,", "M 0 0 L 1 1", "a path command is missing @8"},
+      {"M0 0A5 5 0 2 0 9 9", "", "an arc flag is 0 or 1 @11"},
+      {"M0 0L1 1Z 5 5", "M 0 0 L 1 1 Z", "a path command is missing @10"},
+      {"M0 0L1 1Lnan 5", "M 0 0 L 1 1", "a number is missing @9"}};
+  for (const auto& [data, drawn, fault] : cases) {
     SvgOutline outline;
-    EXPECT_EQ(faultText(readPathData(example.data, outline)), example.fault) << example.data;
-    EXPECT_EQ(outlineText(outline.paths(kIdentity)), example.drawn) << example.data;
+    EXPECT_EQ(faultText(readPathData(data, outline)), fault) << data;
+    EXPECT_EQ(outlineText(outline.paths(kIdentity)), drawn) << data;
   }
 }
 
 TEST(SvgPathData, ArcsLieOnTheirEllipse) {
-  struct Case {
-    const char* data;
-    AIRealRect box;  // y down
-    AIRealPoint centre;
-    double ratio;  // of the vertical radius to the horizontal one
-  };
-  const Case cases[] = {{"M10 0A10 10 0 0 1 0 10", {0, 10, 10, 0}, {0, 0}, 1},
-                        {"M10 0A10 10 0 1 0 0 10", {-10, 10, 10, -10}, {0, 0}, 1},
-                        {"M10 0A10 10 0 0 0 0 10", {0, 10, 10, 0}, {10, 10}, 1},
-                        {"M-10 0A10 5 0 0 1 10 0", {-10, 0, 10, -5}, {0, 0}, 0.5},
-                        {"M-10 0a-10-5 0 0120 0", {-10, 0, 10, -5}, {0, 0}, 0.5},
-                        // Too small a radius grows until the ends fit.
-                        {"M-10 0A1 1 0 0 1 10 0", {-10, 0, 10, -10}, {0, 0}, 1},
-                        {"M0-10A5 10 90 0 1 0 10", {0, 10, 20, -10}, {0, 0}, 0.5}};
-  for (const Case& example : cases) {
-    SCOPED_TRACE(example.data);
+  // The box with y down, the centre, and the ratio of the vertical radius to the horizontal one.
+  const std::tuple<const char*, AIRealRect, AIRealPoint, double> cases[] = {
+      {"M10 0A10 10 0 0 1 0 10", {0, 10, 10, 0}, {0, 0}, 1},
+      {"M10 0A10 10 0 1 0 0 10", {-10, 10, 10, -10}, {0, 0}, 1},
+      {"M10 0A10 10 0 0 0 0 10", {0, 10, 10, 0}, {10, 10}, 1},
+      {"M-10 0A10 5 0 0 1 10 0", {-10, 0, 10, -5}, {0, 0}, 0.5},
+      {"M-10 0a-10-5 0 0120 0", {-10, 0, 10, -5}, {0, 0}, 0.5},
+      // Too small a radius grows until the ends fit.
+      {"M-10 0A1 1 0 0 1 10 0", {-10, 0, 10, -10}, {0, 0}, 1},
+      {"M0-10A5 10 90 0 1 0 10", {0, 10, 20, -10}, {0, 0}, 0.5}};
+  for (const auto& [data, wanted, centre, ratio] : cases) {
+    SCOPED_TRACE(data);
     SvgOutline outline;
-    EXPECT_EQ(faultText(readPathData(example.data, outline)), "");
+    EXPECT_EQ(faultText(readPathData(data, outline)), "");
     const auto paths = outline.paths(kIdentity);
     ASSERT_EQ(paths.size(), 1U);
     const AIRealRect box = pathBounds(paths[0]);
-    EXPECT_NEAR(box.left, example.box.left, 5e-3);
-    EXPECT_NEAR(box.top, example.box.top, 5e-3);
-    EXPECT_NEAR(box.right, example.box.right, 5e-3);
-    EXPECT_NEAR(box.bottom, example.box.bottom, 5e-3);
+    EXPECT_NEAR(box.left, wanted.left, 5e-3);
+    EXPECT_NEAR(box.top, wanted.top, 5e-3);
+    EXPECT_NEAR(box.right, wanted.right, 5e-3);
+    EXPECT_NEAR(box.bottom, wanted.bottom, 5e-3);
     const AIRealPoint start = paths[0].segments[0].p;
-    const auto radius = [&](AIRealPoint point) {
-      return std::hypot(point.x - example.centre.x, (point.y - example.centre.y) / example.ratio);
+    const auto radius = [at = centre, flat = ratio](AIRealPoint point) {
+      return std::hypot(point.x - at.x, (point.y - at.y) / flat);
     };
     for (const AIRealPoint point : flatten(paths[0], 1e-4, false))
       EXPECT_NEAR(radius(point), radius(start), 1e-2);

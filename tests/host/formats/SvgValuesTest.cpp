@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 #include "Geometry.h"
 #include "SvgColour.h"
@@ -24,37 +25,33 @@ namespace {
 // One reader for much data, one for a single value, which may not be endless.
 TEST(SvgNumbers, AreReadExactlyAndAlikeByBothReaders) {
   const double infinity = std::numeric_limits<double>::infinity();
-  struct Case {
-    const char* text;
-    std::optional<double> value;
-    const char* rest;
-  };
-  const Case cases[] = {{"0.1", 0.1, ""},
-                        {"-12.5e-1x", -1.25, "x"},
-                        {"1.", 1, ""},
-                        {".5.5", 0.5, ".5"},
-                        {"1e", 1, "e"},
-                        {"2e+3e", 2000, "e"},
-                        {"0.30000000000000004", 0.30000000000000004, ""},
-                        {"9007199254740993", 9007199254740992.0, ""},
-                        {"1234567890123456789012", 1.2345678901234568e21, ""},
-                        {"4.9e-324", 4.9e-324, ""},
-                        {"1e-999", 0, ""},
-                        {"-1e999", -infinity, ""},
-                        {".", std::nullopt, "."},
-                        {"-.e5", std::nullopt, "-.e5"},
-                        {"0x10", 0, "x10"},
-                        {"0.0000e5", 0, ""},
-                        {"", std::nullopt, ""},
-                        {"nan", std::nullopt, "nan"}};
-  for (const Case& example : cases) {
-    SvgScanner scanner(example.text);
-    EXPECT_EQ(scanner.number(), example.value) << example.text;
-    EXPECT_EQ(scanner.rest(), example.rest) << example.text;
-    std::string_view text = example.text;
-    const bool isFinite = example.value && std::isfinite(*example.value);
-    EXPECT_EQ(takeNumber(text), isFinite ? example.value : std::nullopt) << example.text;
-    EXPECT_EQ(text, isFinite ? example.rest : example.text);
+  const std::tuple<const char*, std::optional<double>, const char*> cases[] = {
+      {"0.1", 0.1, ""},
+      {"-12.5e-1x", -1.25, "x"},
+      {"1.", 1, ""},
+      {".5.5", 0.5, ".5"},
+      {"1e", 1, "e"},
+      {"2e+3e", 2000, "e"},
+      {"0.30000000000000004", 0.30000000000000004, ""},
+      {"9007199254740993", 9007199254740992.0, ""},
+      {"1234567890123456789012", 1.2345678901234568e21, ""},
+      {"4.9e-324", 4.9e-324, ""},
+      {"1e-999", 0, ""},
+      {"-1e999", -infinity, ""},
+      {".", std::nullopt, "."},
+      {"-.e5", std::nullopt, "-.e5"},
+      {"0x10", 0, "x10"},
+      {"0.0000e5", 0, ""},
+      {"", std::nullopt, ""},
+      {"nan", std::nullopt, "nan"}};
+  for (const auto& [whole, value, rest] : cases) {
+    SvgScanner scanner(whole);
+    EXPECT_EQ(scanner.number(), value) << whole;
+    EXPECT_EQ(scanner.rest(), rest) << whole;
+    std::string_view text = whole;
+    const bool isFinite = value && std::isfinite(*value);
+    EXPECT_EQ(takeNumber(text), isFinite ? value : std::nullopt) << whole;
+    EXPECT_EQ(text, isFinite ? rest : whole);
   }
 }
 

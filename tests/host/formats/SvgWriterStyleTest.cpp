@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "DrawingMaker.h"
 #include "SvgWriterCase.h"
 
 namespace host {
@@ -53,9 +54,9 @@ void addSpot(SvgDrawing& drawing, const std::string& name) {
   const CustomColorId color = document.addCustomColor(name, definition);
   const SwatchGroupId group = document.addSwatchGroup(-1);
   document.editSwatchGroup(group).name = "Cut & crease";
-  document.addSwatch(group, spot(document, color, 0), name);
+  document.addSwatch(group, testing::customPaint(document, color, 0), name);
   addPath(drawing, rootOf(drawing, 0), {{0, 72}, {0.75, 72}, {0.75, 71.25}},
-          stroked(spot(document, color, 0.5), 0.75, true));
+          stroked(testing::customPaint(document, color, 0.5), 0.75, true));
 }
 
 constexpr char kSpotPath[] =

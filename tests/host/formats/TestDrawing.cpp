@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "DocumentChecks.h"
-#include "Handles.h"
+#include "DrawingMaker.h"
 
 namespace host {
 
@@ -34,10 +34,7 @@ ArtId rootOf(const SvgDrawing& drawing, std::size_t layerFromTop) {
 }
 
 std::shared_ptr<const PathGeometry> corners(std::initializer_list<AIRealPoint> points, bool closed) {
-  PathGeometry path;
-  for (const AIRealPoint point : points) path.segments.push_back({point, point, point, 1});
-  path.closed = closed;
-  return std::make_shared<const PathGeometry>(path);
+  return std::make_shared<const PathGeometry>(testing::straight(points, closed));
 }
 
 AIColor cmyk(double c, double m, double y, double k) {
@@ -51,13 +48,6 @@ AIColor rgb(double r, double g, double b) {
   AIColor color{};
   color.kind = kThreeColor;
   color.c.rgb = {r, g, b};
-  return color;
-}
-
-AIColor spot(const Document& document, CustomColorId id, double tint) {
-  AIColor color{};
-  color.kind = kCustomColor;
-  color.c.c = {makeHandle<AICustomColorHandle>(HandleKind::CustomColor, document.serial(), id), tint};
   return color;
 }
 

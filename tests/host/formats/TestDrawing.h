@@ -22,7 +22,6 @@ std::shared_ptr<const PathGeometry> corners(std::initializer_list<AIRealPoint> p
 
 AIColor cmyk(double c, double m, double y, double k);
 AIColor rgb(double r, double g, double b);
-AIColor spot(const Document& document, CustomColorId id, double tint);
 std::shared_ptr<const AIPathStyle> stroked(const AIColor& color, double width, bool overprint = false);
 std::shared_ptr<const AIPathStyle> filled(const AIColor& color, bool overprint = false);
 

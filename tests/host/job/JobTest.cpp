@@ -6,98 +6,76 @@
 
 #include <cmath>
 #include <nlohmann/json.hpp>
+#include <tuple>
 
 #include "CurveLength.h"
+#include "DrawingMaker.h"
 #include "MarksProduct.h"
 #include "ProcessingSteps.h"
 #include "StepWords.h"
-#include "SvgDrawing.h"
+#include "SvgWords.h"
 
 namespace host {
 namespace {
 
 using nlohmann::json;
-using testing::ElementsAre;
-using testing::Pair;
-
-PathGeometry straight(const std::vector<AIRealPoint>& points, bool closed) {
-  PathGeometry path;
-  path.closed = closed;
-  for (const AIRealPoint& point : points) path.segments.push_back({point, point, point, 1});
-  return path;
-}
-
-PathGeometry curve(AIRealPoint p0, AIRealPoint p1, AIRealPoint p2, AIRealPoint p3) {
-  PathGeometry path;
-  path.segments = {{p0, p0, p1, 0}, {p3, p2, p3, 0}};
-  return path;
-}
+using testing::curved;
+using ::testing::ElementsAre;
+using ::testing::Pair;
+using testing::straight;
 
 TEST(CurveLength, OfShapesWhoseLengthIsKnown) {
-  struct Row {
-    const char* name;
-    PathGeometry path;
-    double length;
-    double tolerance;  // as a part of the length
-  };
-  const Row table[] = {
+  // The tolerance is a part of the length.
+  const std::tuple<const char*, PathGeometry, double, double> table[] = {
       {"open polyline", straight({{0, 0}, {3, 4}, {3, 10}}, false), 11, 1e-12},
       {"a lone anchor", straight({{5, 5}}, false), 0, 1e-12},
       // y = x * x from 0 to 1, of degree three
-      {"parabola", curve({0, 0}, {1.0 / 3, 0}, {2.0 / 3, 1.0 / 3}, {1, 1}),
+      {"parabola", curved({{0, 0}, {1.0 / 3, 0}, {2.0 / 3, 1.0 / 3}, {1, 1}}, false),
        std::sqrt(5) / 2 + std::asinh(2) / 4, 1e-4},
       // (t * t, t * t * t) from -1 to 1: a semicubical parabola with its cusp in the middle
-      {"cusp", curve({1, -1}, {-1.0 / 3, 1}, {-1.0 / 3, -1}, {1, 1}), 2 * (13 * std::sqrt(13) - 8) / 27,
-       1e-4},
+      {"cusp", curved({{1, -1}, {-1.0 / 3, 1}, {-1.0 / 3, -1}, {1, 1}}, false),
+       2 * (13 * std::sqrt(13) - 8) / 27, 1e-4},
       // there and back on a line
-      {"folded", curve({0, 0}, {3, 0}, {-3, 0}, {0, 0}), 4 * std::sqrt(3) / 2, 1e-4},
+      {"folded", curved({{0, 0}, {3, 0}, {-3, 0}, {0, 0}}, false), 4 * std::sqrt(3) / 2, 1e-4},
   };
-  for (const Row& row : table) {
-    EXPECT_NEAR(lengthOf(row.path), row.length, row.length * row.tolerance) << row.name;
+  for (const auto& [name, path, length, tolerance] : table) {
+    EXPECT_NEAR(lengthOf(path), length, length * tolerance) << name;
   }
 }
 
-std::string named(const std::string& name, const std::string& more = {}) {
-  return "<g inkscape:groupmode='layer' inkscape:label='" + name + "' " + more + ">";
-}
-std::string colour(const std::string& name, bool isSpot = true) {
-  return "<h:color name='" + name + "' definition='cmyk(0 0 0 1)' spot='" + (isSpot ? "true'/>" : "false'/>");
-}
 // A square of so many millimetres at the lower left.
 std::string square(double side, const std::string& more) {
   const std::string length = std::to_string(side);
   return "<path d='M0 2540h" + length + "v-" + length + "h-" + length + "z' " + more + "/>";
 }
 std::string painted(const std::string& name) {
-  return "fill='none' stroke='#000000' h:stroke=\"custom('" + name + "' 0)\"";
+  return "fill='none'" + inked("stroke", name, "#000000");
 }
 
 // In millimetres, at a tenth of its size. Layers from the bottom.
-std::shared_ptr<Document> drawn(const std::string& colours, const std::string& layers) {
-  auto read = readSvg(
-      "<svg xmlns='http://www.w3.org/2000/svg' xmlns:h='urn:x-corvane-host:drawing:1' h:scale='10'"
-      " xmlns:inkscape='http://www.inkscape.org/namespaces/inkscape'"
-      " xmlns:sodipodi='http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd'"
-      " width='5080mm' height='2540mm' viewBox='0 0 5080 2540'><sodipodi:namedview>"
-      "<inkscape:page x='0' y='0' width='5080' height='2540' inkscape:label='Front'/>"
-      "<inkscape:page x='6000' y='0' width='254' height='254'/></sodipodi:namedview>"
-      "<metadata><h:swatches>" +
-          colours + "</h:swatches></metadata>" + layers + "</svg>",
-      nullptr);
-  return std::get<SvgDrawing>(read).document;
+std::shared_ptr<Document> drawn(const std::string& swatches, const std::string& layers) {
+  const std::string pages =
+      "<sodipodi:namedview><inkscape:page x='0' y='0' width='5080' height='2540' inkscape:label='Front'/>"
+      "<inkscape:page x='6000' y='0' width='254' height='254'/></sodipodi:namedview>";
+  return documentOf(svgText("ch:scale='10' width='5080mm' height='2540mm' viewBox='0 0 5080 2540'", swatches,
+                            pages + layers));
+}
+std::string black(const std::string& name) {
+  return spot(name, "cmyk(0 0 0 1)");
 }
 
 TEST(JobSummary, CountsWhatATableWillMeet) {
   const std::string cut = painted("Cut A");
-  const auto document =
-      drawn(colour("Cut A") + colour("Drill") + colour("Only an ink"),
-            named(kMarksProduct.layerTitle) + square(25.4, "inkscape:label='brevia Regmark'") +
-                square(50.8, "inkscape:label='brevia Regmark'") +
-                square(9, "inkscape:label='brevia Regmark' style='display:none'") + square(9, "") + "</g>" +
-                named("hidden", "style='display:none'") + square(25.4, cut) + "</g>" + named("Drill") +
-                square(25.4, cut) + "</g>" + named("Cut A") + square(25.4, cut) +
-                square(25.4, painted("Only an ink")) + square(25.4, cut + " style='display:none'") +
-                "<g><path d='M0 0h12.7v12.7h-12.7zM0 0h6.35v6.35h-6.35z' " + cut + "/></g></g>");
+  const auto document = drawn(
+      black("Cut A") + black("Drill") + black("Only an ink"),
+      layer(kMarksProduct.layerTitle, square(25.4, "inkscape:label='brevia Regmark'") +
+                                          square(50.8, "inkscape:label='brevia Regmark'") +
+                                          square(9, "inkscape:label='brevia Regmark' style='display:none'") +
+                                          square(9, "")) +
+          layer("hidden", square(25.4, cut), "style='display:none'") + layer("Drill", square(25.4, cut)) +
+          layer("Cut A", square(25.4, cut) + square(25.4, painted("Only an ink")) +
+                             square(25.4, cut + " style='display:none'") +
+                             "<g><path d='M0 0h12.7v12.7h-12.7zM0 0h6.35v6.35h-6.35z' " + cut + "/></g>"));
   const JobSummary summary = summaryOf(*document);
   const json job = json::parse(summaryAsJson(summary, "a \"b\".svg"));
   EXPECT_EQ(job["drawing"], "a \"b\".svg");
@@ -124,11 +102,11 @@ TEST(JobSummary, CountsWhatATableWillMeet) {
 }
 
 TEST(ProcessingSteps, AreTheChosenOnesOrTheUsualAndNeverTheMarks) {
-  const std::string marks = kMarksProduct.layerTitle, end = "</g>";
-  const auto shared =
-      drawn(colour(marks) + colour("THROUGH cut") + colour("Mine") + colour("Crease", false),
-            named("Crease") + end + named("Mine") + end + named("THROUGH cut") + end + named("THROUGH cut") +
-                end + named(marks, "h:step='Structural/Cutting'") + end);
+  const std::string marks = kMarksProduct.layerTitle;
+  const auto shared = drawn(black(marks) + black("THROUGH cut") + black("Mine") +
+                                "<ch:color name='Crease' definition='rgb(0 0 0)'/>",
+                            layer("Crease", "") + layer("Mine", "") + layer("THROUGH cut", "") +
+                                layer("THROUGH cut", "") + layer(marks, "", "ch:step='Structural/Cutting'"));
   Document& document = *shared;
   const auto stepOf = [&](std::size_t fromTop) {
     return document.layer(document.state().layers[fromTop])->step;
@@ -156,7 +134,7 @@ TEST(ProcessingSteps, AreMeantByMuch) {
       {"Cut", std::nullopt}};
   for (const auto& [text, step] : table) EXPECT_EQ(stepMeantBy(text), step) << text;
   EXPECT_THAT(stepsLike("Foldin"), ElementsAre("Structural/Folding"));
-  EXPECT_THAT(stepsLike("crees"), testing::Contains("Structural/Creasing"));
+  EXPECT_THAT(stepsLike("crees"), ::testing::Contains("Structural/Creasing"));
   EXPECT_EQ(stepsLike("saw").size(), processingSteps().size());
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "Preflight.h"
-#include "SvgDrawing.h"
+#include "SvgWords.h"
 
 namespace host {
 namespace {
@@ -14,17 +14,13 @@ namespace {
 using testing::ElementsAreArray;
 using testing::HasSubstr;
 
-constexpr char kCutPaint[] = " style='fill:none;stroke:#f00' ch:stroke=\"custom('Through Cut' 0)\"";
-constexpr char kCreasePaint[] = " style='fill:none;stroke:#00f' ch:stroke=\"custom('Crease' 0)\"";
+const std::string kCutPaint = " fill='none'" + inked("stroke", "Through Cut");
 
 std::string cut(const std::string& data, const std::string& name = {}) {
-  return std::string("<path") + kCutPaint + " inkscape:label='" + name + "' d='" + data + "'/>";
+  return "<path" + kCutPaint + " inkscape:label='" + name + "' d='" + data + "'/>";
 }
 std::string crease(const std::string& data) {
-  return std::string("<path") + kCreasePaint + " d='" + data + "'/>";
-}
-std::string layer(const std::string& title, const std::string& content, const std::string& more = {}) {
-  return "<g inkscape:groupmode='layer' inkscape:label='" + title + "' " + more + ">" + content + "</g>";
+  return "<path fill='none'" + inked("stroke", "Crease", "#0000ff") + " d='" + data + "'/>";
 }
 // A dot of 6 mm.
 std::string mark(double x, double y) {
@@ -34,17 +30,9 @@ std::string mark(double x, double y) {
 const std::string kFourMarks = mark(20, 20) + mark(180, 20) + mark(180, 180) + mark(20, 180);
 
 // 200 by 200 mm, in millimetres.
-std::shared_ptr<Document> drawn(const std::string& layers, const std::string& moreSwatches = {}) {
-  auto read = readSvg(
-      "<svg xmlns='http://www.w3.org/2000/svg' xmlns:ch='urn:x-corvane-host:drawing:1'"
-      " xmlns:inkscape='http://www.inkscape.org/namespaces/inkscape'"
-      " xmlns:sodipodi='http://sodipodi.sourceforge.net/DTD/sodipodi-0.dtd'"
-      " width='200mm' height='200mm' viewBox='0 0 200 200'><metadata><ch:swatches>"
-      "<ch:color name='Through Cut' definition='rgb(1 0 0)' spot='true'/>"
-      "<ch:color name='Crease' definition='rgb(0 0 1)' spot='true'/>" +
-          moreSwatches + "</ch:swatches></metadata>" + layers + "</svg>",
-      nullptr);
-  return std::get<SvgDrawing>(read).document;
+std::shared_ptr<Document> drawn(const std::string& layers) {
+  return documentOf(svgText("width='200mm' height='200mm' viewBox='0 0 200 200'",
+                            spot("Through Cut") + spot("Crease", "rgb(0 0 1)"), layers));
 }
 
 struct Case {
@@ -53,7 +41,6 @@ struct Case {
   std::vector<std::string> kinds;
   const char* sentence;  // a part of the first
   std::size_t art = 1;   // in the first
-  std::string swatches = {};
 };
 
 std::vector<Case> cases() {
@@ -151,7 +138,7 @@ std::vector<Case> cases() {
 
 TEST(Preflight, FindsWhatIsWrongAndNothingElse) {
   for (const Case& row : cases()) {
-    const auto document = drawn(row.layers, row.swatches);
+    const auto document = drawn(row.layers);
     const std::vector<Finding> findings = preflight(*document);
     std::vector<std::string> kinds;
     std::string sentences;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "Document.h"
+#include "Handles.h"
 
 namespace host::testing {
 
@@ -59,6 +60,13 @@ inline AIPathStyle stroked(double width, AILineCap cap = kAIButtCap, AILineJoin 
   style.stroke.join = join;
   style.stroke.miterLimit = miterLimit;
   return style;
+}
+
+inline AIColor customPaint(const Document& document, CustomColorId id, double tint = 0) {
+  AIColor color{};
+  color.kind = kCustomColor;
+  color.c.c = {makeHandle<AICustomColorHandle>(HandleKind::CustomColor, document.serial(), id), tint};
+  return color;
 }
 
 inline std::shared_ptr<const Clip> clipTo(std::vector<PathGeometry> paths,
