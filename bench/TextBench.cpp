@@ -5,7 +5,6 @@
 
 #include <QTranslator>
 #include <algorithm>
-#include <chrono>
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
@@ -20,6 +19,7 @@
 
 #include "GoalTable.h"
 #include "Localize.h"
+#include "Median.h"
 #include "RDB.h"
 #include "ResourceLocation.h"
 #include "ScratchFolder.h"
@@ -28,7 +28,8 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using bench::median;
+using bench::medianRatio;
 using bench::Sentence;
 
 constexpr int kCount = 2000;
@@ -39,24 +40,16 @@ void run(const std::string& command) {
     throw std::runtime_error("a peer's file could not be made with: " + command);
 }
 
-double nanoseconds(const std::function<void()>& work) {
-  const auto start = Clock::now();
-  work();
-  return std::chrono::duration<double, std::nano>(Clock::now() - start).count();
-}
+using Times = std::vector<std::vector<double>>;
 
-// The median over rounds in which all contestants take turns, so that each meets the same machine.
-std::vector<double> medians(int rounds, const std::vector<std::function<void()>>& contestants) {
-  std::vector<std::vector<double>> times(contestants.size());
+// Of each contestant, round by round. They take turns, so that each meets the same machine.
+Times timesOf(int rounds, const std::vector<std::function<void()>>& contestants) {
+  Times times(contestants.size());
   for (int round = 0; round < rounds; ++round) {
-    for (std::size_t i = 0; i < contestants.size(); ++i) times[i].push_back(nanoseconds(contestants[i]));
+    for (std::size_t i = 0; i < contestants.size(); ++i)
+      times[i].push_back(1e9 * bench::seconds(contestants[i]));
   }
-  std::vector<double> result;
-  for (auto& of : times) {
-    std::sort(of.begin(), of.end());
-    result.push_back(of[of.size() / 2]);
-  }
-  return result;
+  return times;
 }
 
 // Each asks for every sentence once.
@@ -132,30 +125,30 @@ int judge() {
   checkAnswers(present, qt);
   std::mt19937 random(3);
   std::shuffle(present.begin(), present.end(), random);
-  const std::vector<double> hit = medians(301, contestants(present, qt));
-  const std::vector<double> miss = medians(101, contestants(missing, qt));
+  const Times hit = timesOf(301, contestants(present, qt));
+  const Times miss = timesOf(101, contestants(missing, qt));
   RDB_Handle loaded;
   const auto loadTexts = [&] {
     loaded = RDB_Create();
     RDB_LoadText(loaded.get(), ours.c_str());
   };
   const auto takeDown = [&] { loaded.reset(); };
-  const std::vector<double> load =
-      medians(301, {loadTexts, takeDown, [&ours] { benchmark::DoNotOptimize(readBytes(ours)); }});
+  const Times load =
+      timesOf(301, {loadTexts, takeDown, [&ours] { benchmark::DoNotOptimize(readBytes(ours)); }});
   std::printf("ns a lookup: present %.0f (gettext %.0f, QTranslator %.0f), missing %.0f (%.0f, %.0f)\n",
-              hit[0] / kCount, hit[1] / kCount, hit[2] / kCount, miss[0] / kCount, miss[1] / kCount,
-              miss[2] / kCount);
-  std::printf("loading %d entries: %.0f us, reading their %ju bytes: %.0f us\n", kCount, load[0] / 1000,
-              static_cast<std::uintmax_t>(std::filesystem::file_size(ours)), load[2] / 1000);
+              median(hit[0]) / kCount, median(hit[1]) / kCount, median(hit[2]) / kCount,
+              median(miss[0]) / kCount, median(miss[1]) / kCount, median(miss[2]) / kCount);
+  std::printf("loading %d entries: %.0f us, reading their %ju bytes: %.0f us\n", kCount,
+              median(load[0]) / 1000, static_cast<std::uintmax_t>(std::filesystem::file_size(ours)),
+              median(load[2]) / 1000);
   std::printf("memory an entry: %.0f bytes, of them %.0f of text\n\n", bytesPerEntry(ours),
               static_cast<double>(std::filesystem::file_size(ours)) / kCount - 8);
   bench::GoalTable table;
-  table.atMost("present text, of gettext's time", hit[0] / hit[1], 0.5);
-  table.atMost("present text, of QTranslator's time", hit[0] / hit[2], 0.5);
-  table.atMost("missing text, of QTranslator's time", miss[0] / miss[2], 1);
-  table.atMost(
-      "loading, of reading the bytes", load[0] / load[2], 2,
-      "an entry is a node and a shared value of its own: two allocations, a hash, a place in the index");
+  table.atMost("present text, of gettext's time", medianRatio(hit[0], hit[1]), 0.5);
+  table.atMost("present text, of QTranslator's time", medianRatio(hit[0], hit[2]), 0.5);
+  table.atMost("missing text, of QTranslator's time", medianRatio(miss[0], miss[2]), 1);
+  table.atMost("loading, of reading the bytes", medianRatio(load[0], load[2]), 2,
+               "an entry is a hash, a place in the index, a node and a text, both in shared blocks");
   return table.print();
 }
 
