@@ -60,8 +60,8 @@ struct AIPanelSuite {
   // The user changes the height in steps of this many units, counted from the minimum. 0 and 1: freely.
   AIErr (*SetVerticalStep)(AIPanelRef panel, AIReal step);
   AIErr (*SetFlyoutMenu)(AIPanelRef panel, AIPanelFlyoutMenuRef menu);  // null: none
-  // Of a panel that floats: its upper left corner on the screen, y down. One that has no place of last time is
-  // docked, and goes there when the user first lets it float.
+  // Of a panel that floats: its upper left corner on the screen, y down. One that has no place of last time
+  // is docked, and goes there when the user first lets it float.
   AIErr (*Move)(AIPanelRef panel, std::int32_t x, std::int32_t y);
 
   // Null: none.
