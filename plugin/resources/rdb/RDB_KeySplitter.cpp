@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "RDB_Hash.h"
+#include "RDB_Words.h"
 
 namespace {
 
@@ -13,11 +13,6 @@ bool StartsWithJustTwoDots(const char* key) {
 }
 
 }  // namespace
-
-RDB_KeyPart RDB_PartOfName(std::string_view name) {
-  const unsigned hash = RDB_Hash(name.data(), name.size());
-  return {RDB_SlotOfHash(hash), hash, name.size(), name.data()};
-}
 
 RDB_KeySplitter::RDB_KeySplitter(char* key, std::size_t length)
     : next_(key[0] == '.' && !StartsWithJustTwoDots(key) ? key + 1 : key),

@@ -4,9 +4,13 @@
 #include <string_view>
 
 #include "RDB.h"
+#include "RDB_Hash.h"
 
 // `name` as an ordinary component; it has to last as long.
-RDB_KeyPart RDB_PartOfName(std::string_view name);
+inline RDB_KeyPart RDB_PartOfName(std::string_view name) {
+  const unsigned hash = RDB_Hash(name.data(), name.size());
+  return {RDB_SlotOfHash(hash), hash, name.size(), name.data()};
+}
 
 // Gives the components of a key one by one. Their names are unescaped in place, so the key is used up; they
 // last as long as its bytes do.

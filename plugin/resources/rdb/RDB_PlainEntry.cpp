@@ -1,12 +1,15 @@
 #include "RDB_PlainEntry.h"
 
+#include <cstddef>
+#include <cstring>
+
 #include "RDB_Bytes.h"
 #include "RDB_Words.h"
 
 namespace {
 
-const char* SkipSpace(const char* at, const char* end) {
-  while (at != end && RDB_IsSpace(*at)) ++at;
+inline const char* SkipSpace(const char* at, const char* end) {
+  while (at != end && static_cast<unsigned char>(*at) <= ' ' && RDB_IsSpace(*at)) ++at;
   return at;
 }
 
@@ -29,6 +32,18 @@ const char* CloseOfKey(const char* at, const char* end, bool& isName) {
   }
 }
 
+// Behind the quote that opens, or null if something else than a separator stands before it. `close` is the
+// quote that closes the key.
+const char* BeginOfValue(const char* close, const char* end) {
+  constexpr char kUsual[] = "\" : \"";
+  constexpr std::ptrdiff_t kLength = sizeof kUsual - 1;
+  if (end - close > kLength && std::memcmp(close, kUsual, kLength) == 0) return close + kLength;
+  const char* at = SkipSpace(close + 1, end);
+  if (at == end || (*at != ':' && *at != '=')) return nullptr;
+  at = SkipSpace(at + 1, end);
+  return at != end && *at == '"' ? at + 1 : nullptr;
+}
+
 const char* CloseOfValue(const char* at, const char* end) {
   at = RDB_FindByte<'"', '\\', '\0'>(at, end);
   return at != end && *at == '"' ? at : nullptr;
@@ -48,12 +63,9 @@ bool RDB_PlainEntry::Read(const char* begin, const char* limit) {
   at = CloseOfKey(at, limit, isName);
   if (at == nullptr) return false;
   key = Between(keyBegin, at);
-  at = SkipSpace(at + 1, limit);
-  if (at == limit || (*at != ':' && *at != '=')) return false;
-  at = SkipSpace(at + 1, limit);
-  if (at == limit || *at != '"') return false;
-  const char* const valueBegin = ++at;
-  at = CloseOfValue(at, limit);
+  const char* const valueBegin = BeginOfValue(at, limit);
+  if (valueBegin == nullptr) return false;
+  at = CloseOfValue(valueBegin, limit);
   if (at == nullptr || limit - at < 2 || !RDB_IsSpace(at[1])) return false;
   value = Between(valueBegin, at);
   end = at + 2;
