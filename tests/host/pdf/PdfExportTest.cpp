@@ -222,18 +222,18 @@ TEST_F(PdfExportTest, TheProofNamesWhatDiffers) {
   }
 }
 
-constexpr int kSide = 300, kCell = 5;  // dots
+constexpr std::size_t kSide = 300, kCell = 5;  // dots
 
 // Means of red, green and blue in cells of some dots each: edges may be smoothed in other ways.
 template <typename Dots>
 std::vector<int> coarse(Dots dots) {
-  constexpr int kCells = kSide / kCell;
+  constexpr std::size_t kCells = kSide / kCell;
   std::vector<int> means(kCells * kCells * 3);
-  for (int i = 0; i < kSide * kSide * 3; ++i) {
-    const int x = i / 3 % kSide, y = i / 3 / kSide, cell = y / kCell * kCells + x / kCell;
-    means[static_cast<std::size_t>(cell * 3 + i % 3)] += dots(i / 3, i % 3);
+  for (std::size_t i = 0; i < kSide * kSide * 3; ++i) {
+    const std::size_t x = i / 3 % kSide, y = i / 3 / kSide, cell = y / kCell * kCells + x / kCell;
+    means[cell * 3 + i % 3] += dots(i / 3, i % 3);
   }
-  for (int& mean : means) mean /= kCell * kCell;
+  for (int& mean : means) mean /= static_cast<int>(kCell * kCell);
   return means;
 }
 
@@ -242,9 +242,10 @@ std::vector<int> canvasOf(const std::string& svg) {
   const auto loaded = SvgPicture::load(pictureSource(std::get<SvgDrawing>(read), svg, {}));
   std::vector<std::uint32_t> dots(kSide * kSide);
   auto* const bytes = reinterpret_cast<std::uint8_t*>(dots.data());
-  EXPECT_EQ(std::get<SvgPicture>(loaded).draw({bytes, kSide, kSide, kSide * 4}, {0, 0, kSide, kSide}), "");
-  return coarse([&](int dot, int channel) {
-    return static_cast<int>(dots[static_cast<std::size_t>(dot)] >> (16 - 8 * channel) & 255);
+  constexpr int kWidth = kSide;
+  EXPECT_EQ(std::get<SvgPicture>(loaded).draw({bytes, kWidth, kWidth, kWidth * 4}, {0, 0, kSide, kSide}), "");
+  return coarse([&](std::size_t dot, std::size_t channel) {
+    return static_cast<int>(dots[dot] >> (16 - 8 * channel) & 255);
   });
 }
 
@@ -284,10 +285,12 @@ TEST_F(PdfExportTest, AllReadersDrawWhatTheCanvasShows) {
           "gs -q -dBATCH -dNOPAUSE -dGraphicsAlphaBits=4 -sDEVICE=ppmraw -r72 -o " + picture + " " + file}) {
       said(command);
       const std::string ppm = scratch_.read("look.ppm");
-      ASSERT_GT(ppm.size(), std::size_t{kSide * kSide * 3}) << command;
-      const char* const first = ppm.data() + ppm.size() - kSide * kSide * 3;
-      const std::vector<int> drawn = coarse(
-          [&](int dot, int channel) { return int{static_cast<std::uint8_t>(first[dot * 3 + channel])}; });
+      constexpr std::size_t kBytes = kSide * kSide * 3;
+      ASSERT_GT(ppm.size(), kBytes) << command;
+      const std::string_view body = std::string_view(ppm).substr(ppm.size() - kBytes);
+      const std::vector<int> drawn = coarse([&](std::size_t dot, std::size_t channel) {
+        return int{static_cast<std::uint8_t>(body[dot * 3 + channel])};
+      });
       const auto isNear = [](int a, int b) { return std::abs(a - b) <= 90; };
       EXPECT_TRUE(std::equal(canvas.begin(), canvas.end(), drawn.begin(), isNear)) << command << "\n" << svg;
     }
