@@ -147,8 +147,9 @@ int judge() {
   table.atMost("present text, of gettext's time", medianRatio(hit[0], hit[1]), 0.5);
   table.atMost("present text, of QTranslator's time", medianRatio(hit[0], hit[2]), 0.5);
   table.atMost("missing text, of QTranslator's time", medianRatio(miss[0], miss[2]), 1);
-  table.atMost("loading, of reading the bytes", medianRatio(load[0], load[2]), 2,
-               "an entry is a hash, a place in the index, a node and a text, both in shared blocks");
+  table.atMost(
+      "loading, of reading the bytes", medianRatio(load[0], load[2]), 2,
+      "an entry is a node and a shared value of its own: two allocations, a hash, a place in the index");
   return table.print();
 }
 
