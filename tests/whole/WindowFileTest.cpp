@@ -142,14 +142,17 @@ TEST_F(WindowTest, QuittingAsksAboutEachChangedDrawingOrAllAtOnce) {
     return answers.asked;
   };
   const std::string svg = squareOnPage();
+  const auto open = [&](const char* name, bool changes) {
+    window.openFiles({scratch.write(name, svg)});
+    if (!changes) return;
+    world.document().beginStep("Rename");
+    world.document().editLayer(world.document().state().layers[0]).title = "Renamed";
+    world.document().endStep();
+  };
   for (const auto& row : rows) {
     window.show();
     for (const char* name : {"a.svg", "b.svg", "c.svg", "d/d.svg"}) {
-      window.openFiles({scratch.write(name, svg)});
-      if (row.changed.find(name[0]) == std::string::npos) continue;
-      world.document().beginStep("Rename");
-      world.document().editLayer(world.document().state().layers[0]).title = "Renamed";
-      world.document().endStep();
+      open(name, row.changed.find(name[0]) != std::string::npos);
     }
     fs::remove_all(scratch.file("d"));  // d can't be saved
     EXPECT_EQ(quit(row.keys), row.asked);
@@ -162,6 +165,14 @@ TEST_F(WindowTest, QuittingAsksAboutEachChangedDrawingOrAllAtOnce) {
     EXPECT_EQ(world.host.documents().all().size(), row.closes ? 0U : 4U) << "none is closed, or all are";
     quit("DDD");
   }
+  window.show();
+  open("a.svg", true);
+  open("b.svg", true);
+  BoxAnswers answers("!");
+  world.press(Qt::Key_W, Qt::ControlModifier);
+  EXPECT_EQ(answers.asked, "b3") << "closing one asks about that one alone";
+  EXPECT_NE(scratch.read("b.svg"), svg);
+  EXPECT_EQ(world.host.documents().all().size(), 1U);
 }
 
 TEST_F(WindowTest, RemarksAreCountedAndListed) {
